@@ -1,0 +1,31 @@
+#!/usr/bin/env bash
+# Builds and runs the fuzzers; new inputs stay in build/fuzz/inputs, crashing ones in build/fuzz/crashes.
+# usage: ./zv fuzz [NAME] [SECONDS]     one fuzzer or all, each for 60 seconds unless told otherwise
+#        ./zv fuzz keep NAME            adds what that fuzzer found worth keeping to fuzz/corpus
+set -euo pipefail
+source scripts/common.sh
+if [[ ${1:-} == -h || ${1:-} == --help ]]; then
+    sed -n '2,4s/^# //p' "$0"
+    exit
+fi
+need_build_tools libclang-rt-14-dev
+
+names() {
+    local source
+    for source in fuzz/*.mm fuzz/*.cpp; do basename "${source%.*}"; done
+}
+
+# run NAME SECONDS
+run() {
+    mkdir -p "build/fuzz/inputs/$1" build/fuzz/crashes
+    printf '== %s\n' "$1"
+    "build/fuzz/fuzz/fuzz_$1" -max_total_time="$2" -print_final_stats=1 -verbosity=0 \
+        -artifact_prefix="build/fuzz/crashes/$1-" "build/fuzz/inputs/$1" "fuzz/corpus/$1"
+}
+
+build fuzz
+case "${1:-}" in
+    keep) "build/fuzz/fuzz/fuzz_$2" -merge=1 "fuzz/corpus/$2" "build/fuzz/inputs/$2" ;;
+    '' | [0-9]*) for name in $(names); do run "$name" "${1:-60}"; done ;;
+    *) run "$1" "${2:-60}" ;;
+esac

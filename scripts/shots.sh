@@ -1,0 +1,24 @@
+#!/usr/bin/env bash
+# Takes pictures of every page in every language, to look at side by side in build/shots.
+# usage: ./zv shots [LANGUAGE...]
+set -euo pipefail
+source scripts/common.sh
+
+case "${1:-}" in
+    -h | --help) sed -n '2,3s/^# //p' scripts/shots.sh; exit ;;
+    *) ;;
+esac
+need_build_tools chromium fonts-liberation fonts-wqy-microhei
+# Node.js may have come with its npm from elsewhere, beside which Debian's npm cannot be installed.
+command -v node >/dev/null || need 'the pictures' nodejs
+command -v npm >/dev/null || need 'the pictures' npm
+build host zelvora-simulator
+[[ -d tests/browser/node_modules/playwright-core ]] || npm --prefix tests/browser ci --silent
+mkdir -p build/shots
+languages=("$@")
+if (($# == 0)); then
+    for folder in resources/*.lproj; do
+        languages+=("$(basename "$folder" .lproj)")
+    done
+fi
+exec node tests/browser/shots.mjs build/host/simulator/zelvora-simulator build/shots "${languages[@]}"
