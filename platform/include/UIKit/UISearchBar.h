@@ -1,0 +1,36 @@
+// A field to search with (UISearchBar class reference).
+#pragma once
+
+#import <UIKit/UITextInputTraits.h>
+#import <UIKit/UIView.h>
+
+@class UISearchBar;
+
+@protocol UISearchBarDelegate <NSObject>
+@optional
+- (BOOL)searchBarShouldBeginEditing:(UISearchBar *)searchBar;
+- (void)searchBarTextDidBeginEditing:(UISearchBar *)searchBar;
+- (BOOL)searchBarShouldEndEditing:(UISearchBar *)searchBar;
+- (void)searchBarTextDidEndEditing:(UISearchBar *)searchBar;
+- (void)searchBar:(UISearchBar *)searchBar textDidChange:(NSString *)searchText;
+- (void)searchBarSearchButtonClicked:(UISearchBar *)searchBar;
+- (void)searchBarCancelButtonClicked:(UISearchBar *)searchBar;
+@end
+
+@interface UISearchBar : UIView {
+@private
+    struct UISearchBarState *_searchBar;
+}
+
+@property (nonatomic, copy) NSString *text;
+@property (nonatomic, copy) NSString *placeholder;
+@property (nonatomic) BOOL showsCancelButton;
+@property (nonatomic, assign) id<UISearchBarDelegate> delegate;
+
+@property (nonatomic) UITextAutocapitalizationType autocapitalizationType;
+@property (nonatomic) UITextAutocorrectionType autocorrectionType;
+@property (nonatomic) UIKeyboardType keyboardType;
+
+- (void)setShowsCancelButton:(BOOL)shows animated:(BOOL)animated;
+
+@end
