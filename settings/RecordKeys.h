@@ -1,0 +1,21 @@
+// Keys of the dictionaries that stand for one entry (row records, picker records and the editor's texts) and
+// of what names a list.
+#pragma once
+
+#import <Foundation/Foundation.h>
+
+namespace zv::key {
+
+constexpr NSString *const number = @"number";
+constexpr NSString *const name = @"name";
+/// Picker records only: the label of the number, or the moment of its last call.
+constexpr NSString *const type = @"type";
+
+} // namespace zv::key
+
+namespace zv {
+
+/// The specifier property that holds the id of the list that a row opens.
+constexpr NSString *const listIdProperty = @"_custom";
+
+} // namespace zv
