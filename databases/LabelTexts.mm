@@ -1,0 +1,49 @@
+#include "databases/LabelTexts.h"
+
+#include <stdint.h>
+#include <stdlib.h>
+#include <string.h>
+
+namespace zv {
+
+namespace {
+
+// FNV-1a (http://www.isthe.com/chongo/tech/comp/fnv/).
+uint32_t hash(const char *text) {
+    uint32_t value = 2166136261U;
+    for (; *text != '\0'; ++text)
+        value = (value ^ uint8_t(*text)) * 16777619U;
+    return value;
+}
+
+} // namespace
+
+LabelTexts::~LabelTexts() {
+    for (Place &place : m_places)
+        clear(place);
+}
+
+NSString *LabelTexts::text(const char *label) {
+    if (!label)
+        return nil;
+    Place &place = m_places[hash(label) % placeCount];
+    if (!place.label || strcmp(place.label, label) != 0)
+        fill(place, label);
+    return place.text;
+}
+
+void LabelTexts::fill(Place &place, const char *label) {
+    clear(place);
+    NSString *stored = [[NSString alloc] initWithUTF8String:label];
+    place.text = stored ? m_copy(stored) : nil;
+    place.label = strdup(label);
+    [stored release];
+}
+
+void LabelTexts::clear(Place &place) {
+    free(place.label);
+    [place.text release];
+    place = {nullptr, nil};
+}
+
+} // namespace zv
