@@ -1,0 +1,27 @@
+// The search field above a list.
+import { h } from '/vendor/preact/preact.js';
+
+import { attribute, isEnabled } from '/model/elements.js';
+import { LiveText } from '/phone/live-text.js';
+
+export class SearchField extends LiveText {
+  render({ element, name, style }) {
+    const placeholder = attribute(element, 'placeholder') ?? '';
+    return h('div', { class: 'search-field', style },
+      h('input', {
+        type: 'search',
+        ref: this.hold,
+        placeholder,
+        'aria-label': element.label || name || placeholder || 'Search',
+        'data-focused': attribute(element, 'focused') ? '' : undefined,
+        'data-field': element.number,
+        autocomplete: 'off',
+        spellcheck: false,
+        disabled: !isEnabled(element),
+        onInput: this.input,
+        onCompositionend: this.composed,
+        onFocus: this.focus,
+        onKeydown: this.key,
+      }));
+  }
+}
