@@ -1,0 +1,167 @@
+// The root page: its tools, the counts beside its lists, and its buttons.
+#import "rootpage/ZelvoraSettingsController.h"
+#import "support/BundleTest.h"
+
+using host::EventKind;
+using support::Entries;
+using support::propertyList;
+using support::text;
+using testing::Contains;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+namespace {
+
+constexpr const char *blacklist = "/var/mobile/Library/Preferences/zelvora.black.plist";
+constexpr const char *defaultBlacklist = "/Library/Zelvora/Default/zelvora.black.plist";
+
+Entries entries(int count) {
+    Entries entries;
+    for (int index = 0; index < count; ++index)
+        entries[std::to_string(index)] = "";
+    return entries;
+}
+
+class RootPages : public support::BundleTest {
+protected:
+    /// The text beside a link to the list that `listId` names; nil for a link without the property.
+    static std::string countFor(NSString *listId) {
+        PSSpecifier *link = [PSSpecifier emptyGroupSpecifier];
+        [link setProperty:listId forKey:@"_custom"];
+        return text([rootPage() getCustomCount:link]);
+    }
+};
+
+TEST_F(RootPages, RespringRestartsTheHomeScreen) {
+    open();
+    tapRightButton();
+    EXPECT_EQ(person.question().type, "Sheet");
+    EXPECT_EQ(person.question().label, "");
+    EXPECT_THAT(person.buttons(), ElementsAre("Respring", "Cancel"));
+    person.answer("Respring");
+    EXPECT_THAT(commands(), ElementsAre("killall SpringBoard"));
+}
+
+TEST_F(RootPages, CancellingTheToolsDoesNothing) {
+    open();
+    tapRightButton();
+    person.answer("Cancel");
+    EXPECT_THAT(commands(), IsEmpty());
+}
+
+TEST_F(RootPages, OtherSheetsRestartNothing) {
+    open();
+    UIActionSheet *sheet = [[[UIActionSheet alloc] initWithTitle:nil
+                                                        delegate:nil
+                                               cancelButtonTitle:@"Cancel"
+                                          destructiveButtonTitle:@"Respring"
+                                               otherButtonTitles:@"More", nil] autorelease];
+    [rootPage() actionSheet:sheet clickedButtonAtIndex:0];
+    [sheet setTag:10086];
+    [rootPage() actionSheet:sheet clickedButtonAtIndex:1];
+    [rootPage() actionSheet:sheet clickedButtonAtIndex:[sheet cancelButtonIndex]];
+    EXPECT_THAT(commands(), IsEmpty());
+    [rootPage() actionSheet:sheet clickedButtonAtIndex:0];
+    EXPECT_THAT(commands(), ElementsAre("killall SpringBoard"));
+}
+
+TEST_F(RootPages, TheToolsButtonIsMadeOnceAPage) {
+    open();
+    UIBarButtonItem *tools = [[rootPage() navigationItem] rightBarButtonItem];
+    person.tap("Keypad");
+    person.back();
+    EXPECT_EQ([[rootPage() navigationItem] rightBarButtonItem], tools);
+}
+
+TEST_F(RootPages, WithoutItsImageTheToolsButtonStillOpensTheSheet) {
+    device.remove("/Library/Zelvora/tools.png");
+    open();
+    EXPECT_EQ([[[rootPage() navigationItem] rightBarButtonItem] image], nil);
+    tapRightButton();
+    EXPECT_EQ(person.question().type, "Sheet");
+    person.answer("Cancel");
+}
+
+TEST_F(RootPages, AListShowsHowManyEntriesItHas) {
+    device.write(blacklist, propertyList(entries(3)));
+    open();
+    EXPECT_EQ(person.valueOf("Blacklist"), "3");
+}
+
+TEST_F(RootPages, AListWithoutADocumentShowsNoCount) {
+    open();
+    EXPECT_EQ(person.valueOf("Blacklist"), "");
+}
+
+TEST_F(RootPages, AnEmptyListShowsNoCount) {
+    device.write(defaultBlacklist, propertyList(entries(2)));
+    device.write(blacklist, propertyList({}));
+    open();
+    EXPECT_EQ(person.valueOf("Blacklist"), "");
+}
+
+TEST_F(RootPages, AListThatWasNeverChangedShowsTheCountOfItsDefaultCopy) {
+    device.write(defaultBlacklist, propertyList(entries(2)));
+    open();
+    EXPECT_EQ(person.valueOf("Blacklist"), "2");
+}
+
+TEST_F(RootPages, AnUnreadableListShowsTheCountOfItsDefaultCopy) {
+    device.write(defaultBlacklist, propertyList(entries(2)));
+    device.write(blacklist, "garbage <<<");
+    open();
+    EXPECT_EQ(person.valueOf("Blacklist"), "2");
+}
+
+TEST_F(RootPages, ALinkWithoutAListShowsNoCount) {
+    open();
+    EXPECT_EQ(countFor(nil), "");
+    EXPECT_EQ(countFor(@"unknown"), "");
+    EXPECT_EQ(countFor(@"calltime"), "");
+}
+
+TEST_F(RootPages, TheCountIsRenewedWhenTheListPageIsLeft) {
+    open();
+    person.tap("Blacklist");
+    device.write(blacklist, propertyList(entries(12)));
+    person.back();
+    EXPECT_EQ(person.valueOf("Blacklist"), "12");
+}
+
+TEST_F(RootPages, SupportMailNamesTheSystemAndTheBuild) {
+    open();
+    host::setSystemVersion("7.1.2");
+    person.tap("Email Us");
+    EXPECT_THAT(host::eventTexts(EventKind::url),
+                ElementsAre("mailto:support@zelvora.example?subject=Zelvora%20%5B7121A7%5D"));
+}
+
+TEST_F(RootPages, TheMicroblogIsOpened) {
+    open();
+    person.tap("Zelvora on Weibo");
+    EXPECT_THAT(host::eventTexts(EventKind::url), ElementsAre("https://microblog.example/zelvora"));
+}
+
+TEST_F(RootPages, TheDonationButtonsDoNothing) {
+    open();
+    host::forgetEvents();
+    person.tap("Alipay");
+    person.tap("PayPal");
+    host::advance(10);
+    EXPECT_TRUE(host::events().empty());
+    EXPECT_EQ(person.question().type, "");
+}
+
+TEST_F(RootPages, ThePageIsThePrincipalClassOfTheBundle) {
+    load();
+    EXPECT_EQ([[NSBundle bundleWithPath:@ZV_BUNDLE_PATH] principalClass],
+              classNamed("ZelvoraSettingsController"));
+}
+
+TEST_F(RootPages, TheSpecifiersAreLoadedOnceAndTheSameArrayIsReturned) {
+    open();
+    EXPECT_EQ([rootPage() specifiers], [rootPage() specifiers]);
+    EXPECT_GT([[rootPage() specifiers] count], 10U);
+}
+
+} // namespace

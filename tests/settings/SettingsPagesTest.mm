@@ -1,0 +1,172 @@
+// What every list-style page adds to the platform's: translated texts, and rows that are up to date when the
+// page comes back.
+#import "settings/ZVSettingsViewController.h"
+#import "support/BundleTest.h"
+
+#include <objc/runtime.h>
+
+using support::text;
+using testing::ElementsAre;
+
+namespace {
+
+PSSpecifier *named(NSString *name) {
+    PSSpecifier *specifier = [PSSpecifier emptyGroupSpecifier];
+    [specifier setName:name];
+    return specifier;
+}
+
+class GermanPages : public support::BundleTest {
+protected:
+    GermanPages() : BundleTest(support::tallPhone("de", "DE")) {}
+
+    ZVSettingsViewController *newPage() {
+        return [[[classNamed("ZVSettingsViewController") alloc] init] autorelease];
+    }
+
+    std::string localizedName(NSString *name) {
+        PSSpecifier *specifier = named(name);
+        [newPage() localizedSpecifiersForSpecifiers:@[ specifier ]];
+        return text([specifier name]);
+    }
+};
+
+TEST_F(GermanPages, NamesThatTheTableKnowsAreTranslated) {
+    EXPECT_EQ(localizedName(@"Cancel"), "Abbrechen");
+}
+
+TEST_F(GermanPages, NamesThatTheTableLacksAreKept) {
+    EXPECT_EQ(localizedName(@"Gibberish"), "Gibberish");
+}
+
+TEST_F(GermanPages, ASpecifierWithoutANameIsLeftUnnamed) {
+    PSSpecifier *specifier = named(nil);
+    [newPage() localizedSpecifiersForSpecifiers:@[ specifier ]];
+    EXPECT_EQ([specifier name], nil);
+}
+
+TEST_F(GermanPages, TitlesOfChoicesAreTranslated) {
+    PSSpecifier *specifier = named(@"Choice");
+    [specifier setValues:@[ @"", @7 ] titles:@[ @"None", @"Gibberish" ]];
+    [newPage() localizedSpecifiersForSpecifiers:@[ specifier ]];
+    EXPECT_EQ(text([[specifier titleDictionary] objectForKey:@""]), "Keine");
+    EXPECT_EQ(text([[specifier titleDictionary] objectForKey:@7]), "Gibberish");
+    EXPECT_EQ([[specifier titleDictionary] count], 2U);
+}
+
+TEST_F(GermanPages, MarkedTitlesOfChoicesAreKeptThoughTheNameIsTranslated) {
+    PSSpecifier *specifier = named(@"Cancel");
+    [specifier setProperty:@0 forKey:@"valueLocalized"];
+    [specifier setValues:@[ @"" ] titles:@[ @"None" ]];
+    [newPage() localizedSpecifiersForSpecifiers:@[ specifier ]];
+    EXPECT_EQ(text([specifier name]), "Abbrechen");
+    EXPECT_EQ(text([[specifier titleDictionary] objectForKey:@""]), "None");
+}
+
+TEST_F(GermanPages, OnlyNamesAndTitlesAreTranslated) {
+    PSSpecifier *specifier = named(@"Choice");
+    [specifier setProperty:@"Cancel" forKey:@"footerText"];
+    [specifier setValues:@[ @"Cancel" ] titles:@[ @"Cancel" ] shortTitles:@[ @"Cancel" ]];
+    [newPage() localizedSpecifiersForSpecifiers:@[ specifier ]];
+    EXPECT_EQ(text([specifier propertyForKey:@"footerText"]), "Cancel");
+    EXPECT_EQ(text([[specifier shortTitleDictionary] objectForKey:@"Cancel"]), "Cancel");
+    EXPECT_EQ(text([[specifier values] objectAtIndex:0]), "Cancel");
+}
+
+TEST_F(GermanPages, TheArrayGivenIsTheArrayReturned) {
+    NSArray *empty = [NSArray array];
+    EXPECT_EQ([newPage() localizedSpecifiersForSpecifiers:empty], empty);
+    NSArray *one = @[ named(@"Cancel") ];
+    EXPECT_EQ([newPage() localizedSpecifiersForSpecifiers:one], one);
+}
+
+TEST_F(GermanPages, TitlesThatTheTableKnowsAreTranslated) {
+    ZVSettingsViewController *page = newPage();
+    [page setTitle:@"Edit Number"];
+    EXPECT_EQ(text([page title]), "Nummer");
+    [page setTitle:@"Gibberish"];
+    EXPECT_EQ(text([page title]), "Gibberish");
+}
+
+TEST_F(GermanPages, ThePageIsTitledWithTheTranslatedNameOfItsRow) {
+    ZVSettingsViewController *page = newPage();
+    [page setSpecifier:named(@"Edit Number")];
+    EXPECT_EQ(text([[page navigationItem] title]), "Nummer");
+}
+
+TEST_F(GermanPages, TheRootPageSpeaksGerman) {
+    open();
+    EXPECT_TRUE(person.sees("Whitelist"));
+}
+
+int reloads = 0;
+void (*reloadSpecifiers)(id, SEL);
+
+void countReload(id page, SEL selector) {
+    ++reloads;
+    reloadSpecifiers(page, selector);
+}
+
+class PageReloads : public support::BundleTest {
+protected:
+    PageReloads() {
+        Method method = class_getInstanceMethod([PSListController class], @selector(reloadSpecifiers));
+        if (!reloadSpecifiers)
+            reloadSpecifiers =
+                reinterpret_cast<void (*)(id, SEL)>(method_setImplementation(method, IMP(countReload)));
+        reloads = 0;
+    }
+};
+
+TEST_F(PageReloads, ShowingAPageForTheFirstTimeReloadsNothing) {
+    open();
+    EXPECT_EQ(reloads, 0);
+    person.tap("Keypad");
+    EXPECT_EQ(reloads, 0);
+}
+
+TEST_F(PageReloads, LeavingAChildPageTwiceReloadsItsParentTwice) {
+    open();
+    person.tap("Keypad");
+    person.back();
+    EXPECT_EQ(reloads, 1);
+    person.tap("Keypad");
+    person.back();
+    EXPECT_EQ(reloads, 2);
+}
+
+TEST_F(PageReloads, ASheetReloadsNothing) {
+    open();
+    tapRightButton();
+    person.answer("Cancel");
+    EXPECT_EQ(reloads, 0);
+}
+
+TEST_F(PageReloads, AGivenUpBackSwipeReloadsThePageItWasGivenUpOn) {
+    open();
+    person.tap("Keypad");
+    person.giveUpBackSwipe();
+    EXPECT_EQ(person.title(), "Keypad");
+    EXPECT_EQ(reloads, 1);
+}
+
+TEST_F(PageReloads, StoredValuesAreShownWhenAPageComesBack) {
+    device.write("/var/mobile/Library/Preferences/zelvora.plist",
+                 support::propertyList({{"ConnectedVibrateTotalDuration", "unknown"}}));
+    open();
+    EXPECT_EQ(person.valueOf("Duration"), "0.5 seconds");
+    person.tap("Keypad");
+    person.back();
+    EXPECT_EQ(person.valueOf("Duration"), "");
+}
+
+TEST_F(PageReloads, AValueChosenOnAChildPageIsShownByItsParent) {
+    open();
+    person.tap("Keypad");
+    person.tap("Key Tones");
+    person.tap("Piano");
+    person.back();
+    EXPECT_EQ(person.valueOf("Key Tones"), "Piano");
+}
+
+} // namespace

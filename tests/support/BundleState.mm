@@ -1,0 +1,25 @@
+#include "support/BundleState.h"
+
+#include <dlfcn.h>
+#include <stdexcept>
+
+namespace support {
+
+void *bundleVariable(const char *mangledName) {
+    void *bundle = dlopen(ZV_BUNDLE_PATH "/Zelvora", RTLD_LAZY | RTLD_NOLOAD);
+    void *variable = bundle ? dlsym(bundle, mangledName) : nullptr;
+    if (!variable)
+        throw std::runtime_error(std::string("not in the loaded bundle: ") + mangledName);
+    dlclose(bundle);
+    return variable;
+}
+
+NSMutableDictionary *&sharedSettings() {
+    return *static_cast<NSMutableDictionary **>(bundleVariable("_ZN2zv15_sharedSettingsE"));
+}
+
+NSMutableDictionary *&settingsMirror() {
+    return *static_cast<NSMutableDictionary **>(bundleVariable("_ZN2zv9_settingsE"));
+}
+
+} // namespace support
