@@ -11,9 +11,11 @@ namespace zv {
 
 namespace {
 
+// Without a bundle there are no texts at all.
 void setText(NSMutableDictionary *info, NSString *key, NSString *text, NSBundle *bundle) {
-    if (text)
-        [info setObject:localized(text, bundle) forKey:key];
+    NSString *shown = text ? localized(text, bundle) : nil;
+    if (shown)
+        [info setObject:shown forKey:key];
 }
 
 void copyMember(NSMutableDictionary *info, NSDictionary *rowRecord, NSString *key) {
@@ -40,9 +42,11 @@ NSMutableDictionary *fieldInfo(ListKind kind, NSBundle *bundle) {
 
 NSString *editorTitle(ListKind kind, NSIndexPath *tapped, NSBundle *bundle) {
     const ListTexts texts = listTexts(kind);
-    NSString *title = [tapped section] == entrySection ? texts.editTitle : texts.addTitle;
-    if (holdsPhoneNumbers(kind) && [tapped section] == actionSection && [tapped row] != addRow)
-        title = nil;
+    NSString *title = nil;
+    if ([tapped section] == entrySection)
+        title = texts.editTitle;
+    else if ([tapped section] == actionSection && (!holdsPhoneNumbers(kind) || [tapped row] == addRow))
+        title = texts.addTitle;
     return title ? localized(title, bundle) : nil;
 }
 

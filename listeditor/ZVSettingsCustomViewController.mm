@@ -31,6 +31,28 @@ ListKind kindOf(int customId) {
     return static_cast<ListKind>(customId);
 }
 
+// The id of the list that a specifier opens; nil for one that opens none.
+NSString *listIdOf(PSSpecifier *specifier) {
+    id listId = [specifier propertyForKey:zv::listIdProperty];
+    return [listId isKindOfClass:[NSString class]] ? listId : nil;
+}
+
+// Puts a record in place of another and shows it. The list may have been built anew since the row was tapped.
+void replaceRow(NSMutableArray *list, UITableView *table, NSUInteger index, NSDictionary *record) {
+    const auto row = static_cast<NSInteger>(index);
+    if (!zv::recordAt(list, row))
+        return;
+    [list replaceObjectAtIndex:index withObject:record];
+    [table reloadRowsAtIndexPaths:onlyRow(row, zv::entrySection)
+                 withRowAnimation:UITableViewRowAnimationAutomatic];
+}
+
+void insertRowAtTop(NSMutableArray *list, UITableView *table, NSDictionary *record) {
+    [list insertObject:record atIndex:0];
+    [table insertRowsAtIndexPaths:onlyRow(0, zv::entrySection)
+                 withRowAnimation:UITableViewRowAnimationAutomatic];
+}
+
 // Shows `modal` over `page`, in a navigation controller of its own.
 void present(UIViewController *page, UIViewController *modal) {
     UINavigationController *stack = [[UINavigationController alloc] initWithRootViewController:modal];
@@ -108,7 +130,7 @@ void presentEditor(ZVSettingsCustomViewController *page, NSDictionary *editInfo,
     if (_list)
         return;
     _list = [[NSMutableArray alloc] init];
-    NSString *listId = [specifier propertyForKey:zv::listIdProperty];
+    NSString *listId = listIdOf(specifier);
     const zv::ListKindEntry &entry = zv::listKindWithId([listId UTF8String]);
     _customId = static_cast<int>(entry.kind);
     if (!entry.hasDocument)
@@ -147,10 +169,10 @@ void presentEditor(ZVSettingsCustomViewController *page, NSDictionary *editInfo,
 - (void)tableView:(UITableView *)table
     commitEditingStyle:(UITableViewCellEditingStyle)style
      forRowAtIndexPath:(NSIndexPath *)path {
-    if (style != UITableViewCellEditingStyleDelete || [path section] != zv::entrySection)
+    NSDictionary *record = zv::recordAt(_list, [path row]);
+    if (style != UITableViewCellEditingStyleDelete || [path section] != zv::entrySection || !record)
         return;
-    NSString *number = [[_list objectAtIndex:[path row]] objectForKey:zv::key::number];
-    zv::ListDocument(_saveplist, _defaultplist).remove(number);
+    zv::ListDocument(_saveplist, _defaultplist).remove([record objectForKey:zv::key::number]);
     [_list removeObjectAtIndex:[path row]];
     [table deleteRowsAtIndexPaths:[NSArray arrayWithObject:path]
                  withRowAnimation:UITableViewRowAnimationAutomatic];
@@ -160,7 +182,7 @@ void presentEditor(ZVSettingsCustomViewController *page, NSDictionary *editInfo,
 - (UITableViewCell *)tableView:(UITableView *)table cellForRowAtIndexPath:(NSIndexPath *)path {
     const ListKind kind = kindOf(_customId);
     if ([path section] == zv::entrySection)
-        return zv::entryCell(table, [_list objectAtIndex:[path row]]);
+        return zv::entryCell(table, zv::recordAt(_list, [path row]));
     if ([path section] != zv::actionSection)
         return nil;
     if (kind == ListKind::callTime && [path row] == zv::addRow)
@@ -179,7 +201,7 @@ void presentEditor(ZVSettingsCustomViewController *page, NSDictionary *editInfo,
     if (zv::holdsPhoneNumbers(kind) && action == zv::contactsRow)
         return presentPicker(self, [ZVSettingsSelectContactsViewController class], _list, @"Select Contacts");
     NSBundle *bundle = [self bundle];
-    NSDictionary *entry = [path section] == zv::entrySection ? [_list objectAtIndex:[path row]] : nil;
+    NSDictionary *entry = [path section] == zv::entrySection ? zv::recordAt(_list, [path row]) : nil;
     NSDictionary *info = kind == ListKind::callTime ? zv::callTimeEditInfo([self getCallLifetime], bundle)
                                                     : zv::editInfo(kind, entry, bundle);
     presentEditor(self, info, zv::editorTitle(kind, path, bundle));
@@ -236,14 +258,10 @@ void presentEditor(ZVSettingsCustomViewController *page, NSDictionary *editInfo,
     const zv::ListDocument document(_saveplist, _defaultplist);
     if (NSString *oldNumber = [editor getNumberKey]) {
         document.replace(oldNumber, number, name);
-        [_list replaceObjectAtIndex:_selectedRow withObject:row];
-        [_tableView reloadRowsAtIndexPaths:onlyRow(static_cast<NSInteger>(_selectedRow), zv::entrySection)
-                          withRowAnimation:UITableViewRowAnimationAutomatic];
+        replaceRow(_list, _tableView, _selectedRow, row);
     } else {
         document.put(number, name);
-        [_list insertObject:row atIndex:0];
-        [_tableView insertRowsAtIndexPaths:onlyRow(0, zv::entrySection)
-                          withRowAnimation:UITableViewRowAnimationAutomatic];
+        insertRowAtTop(_list, _tableView, row);
     }
     [self settingsChanged];
 }

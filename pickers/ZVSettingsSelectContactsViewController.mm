@@ -110,7 +110,7 @@ UIImage *newImage(NSString *path) {
     UITableViewCell *cell = [table dequeueReusableCellWithIdentifier:identifier];
     if (!cell)
         cell = [newRecordCell(identifier) autorelease];
-    NSDictionary *record = [_list objectAtIndex:[path row]];
+    NSDictionary *record = zv::recordAt(_list, [path row]);
     showRecord(cell, record);
     NSString *number = [record objectForKey:zv::key::number];
     const bool chosen = number && [_selects objectForKey:number];
@@ -120,7 +120,7 @@ UIImage *newImage(NSString *path) {
 
 - (void)tableView:(UITableView *)table didSelectRowAtIndexPath:(NSIndexPath *)path {
     [table deselectRowAtIndexPath:path animated:NO];
-    NSDictionary *record = [_list objectAtIndex:[path row]];
+    NSDictionary *record = zv::recordAt(_list, [path row]);
     NSString *number = [record objectForKey:zv::key::number];
     if (!number)
         return;

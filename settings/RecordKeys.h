@@ -1,5 +1,5 @@
-// Keys of the dictionaries that stand for one entry (row records, picker records and the editor's texts) and
-// of what names a list.
+// The dictionaries that stand for one entry (row records, picker records and the editor's texts), and what
+// names a list.
 #pragma once
 
 #import <Foundation/Foundation.h>
@@ -14,6 +14,12 @@ constexpr NSString *const type = @"type";
 } // namespace zv::key
 
 namespace zv {
+
+/// The record of a row of a table; nil where `records` has none.
+inline NSDictionary *recordAt(NSArray *records, NSInteger row) {
+    const auto index = static_cast<NSUInteger>(row); // a negative row is beyond every list
+    return index < [records count] ? [records objectAtIndex:index] : nil;
+}
 
 /// The specifier property that holds the id of the list that a row opens.
 constexpr NSString *const listIdProperty = @"_custom";
