@@ -156,39 +156,89 @@ TEST_F(CallHistoryUninstall, AndInstallAgainStartsWithNoKeptCalls) {
     EXPECT_EQ(history().limit(), 200);
 }
 
-// A later store has the older columns in another place and more of them; the address is a blob.
-class CallHistoryOfLaterSystem : public CallHistoryTest {
+// A later store has the older columns in other places, of other types, and more of them.
+struct LaterSystem {
+    const char *name;
+    const char *columns; ///< those of its ZCALLRECORD
+};
+
+void PrintTo(const LaterSystem &system, std::ostream *stream) {
+    *stream << system.name;
+}
+
+constexpr LaterSystem laterSystems[] = {
+    {"iOS9",
+     "Z_PK INTEGER PRIMARY KEY, Z_ENT INTEGER, Z_OPT INTEGER, ZANSWERED INTEGER, ZCALL_CATEGORY INTEGER, "
+     "ZCALLTYPE INTEGER, ZDISCONNECTED_CAUSE INTEGER, ZFACE_TIME_DATA INTEGER, ZNUMBER_AVAILABILITY INTEGER, "
+     "ZORIGINATED INTEGER, ZREAD INTEGER, ZDATE TIMESTAMP, ZDURATION FLOAT, ZADDRESS VARCHAR, ZDEVICE_ID "
+     "VARCHAR, ZISO_COUNTRY_CODE VARCHAR, ZLOCATION VARCHAR, ZNAME VARCHAR, ZUNIQUE_ID VARCHAR"},
+    {"iOS10",
+     "Z_PK INTEGER PRIMARY KEY, Z_ENT INTEGER, Z_OPT INTEGER, ZANSWERED INTEGER, ZCALL_CATEGORY INTEGER, "
+     "ZCALLTYPE INTEGER, ZDISCONNECTED_CAUSE INTEGER, ZFACE_TIME_DATA INTEGER, ZHANDLE_TYPE INTEGER, "
+     "ZNUMBER_AVAILABILITY INTEGER, ZORIGINATED INTEGER, ZREAD INTEGER, ZDATE TIMESTAMP, ZDURATION FLOAT, "
+     "ZDEVICE_ID VARCHAR, ZISO_COUNTRY_CODE VARCHAR, ZLOCATION VARCHAR, ZNAME VARCHAR, ZSERVICE_PROVIDER "
+     "VARCHAR, ZUNIQUE_ID VARCHAR, ZADDRESS BLOB"},
+    {"iOS11",
+     "Z_PK INTEGER PRIMARY KEY, Z_ENT INTEGER, Z_OPT INTEGER, ZANSWERED INTEGER, ZCALL_CATEGORY INTEGER, "
+     "ZCALLTYPE INTEGER, ZDISCONNECTED_CAUSE INTEGER, ZFILTERED_OUT_REASON INTEGER, ZHANDLE_TYPE INTEGER, "
+     "ZNUMBER_AVAILABILITY INTEGER, ZORIGINATED INTEGER, ZREAD INTEGER, ZDATE TIMESTAMP, ZDURATION FLOAT, "
+     "ZFACE_TIME_DATA FLOAT, ZDEVICE_ID VARCHAR, ZISO_COUNTRY_CODE VARCHAR, ZLOCATION VARCHAR, ZNAME "
+     "VARCHAR, "
+     "ZSERVICE_PROVIDER VARCHAR, ZUNIQUE_ID VARCHAR, ZADDRESS BLOB, ZLOCALPARTICIPANTUUID BLOB, "
+     "ZOUTGOINGLOCALPARTICIPANTUUID BLOB"},
+};
+
+constexpr const char *keptColumns =
+    "Z_PK, Z_ENT, Z_OPT, ZANSWERED, ZCALLTYPE, ZDISCONNECTED_CAUSE, ZFACE_TIME_DATA, ZNUMBER_AVAILABILITY, "
+    "ZORIGINATED, ZREAD, ZDATE, ZDURATION, quote(ZADDRESS), ZDEVICE_ID, ZISO_COUNTRY_CODE, ZNAME, ZUNIQUE_ID";
+
+class CallHistoryOfLaterSystem : public CallHistoryTest, public testing::WithParamInterface<LaterSystem> {
 protected:
     void SetUp() override {
         run("CREATE TABLE ZCALLDBPROPERTIES (Z_PK INTEGER PRIMARY KEY, Z_ENT INTEGER, Z_OPT INTEGER, "
             "ZTIMER_ALL FLOAT, ZTIMER_INCOMING FLOAT, ZTIMER_LAST FLOAT, ZTIMER_LIFETIME FLOAT, "
             "ZTIMER_OUTGOING FLOAT);"
             "INSERT INTO ZCALLDBPROPERTIES (Z_PK, ZTIMER_LIFETIME) VALUES (1, 600.0);"
-            "CREATE TABLE ZCALLRECORD (Z_PK INTEGER PRIMARY KEY, Z_ENT INTEGER, Z_OPT INTEGER, ZANSWERED "
-            "INTEGER, "
-            "ZCALL_CATEGORY INTEGER, ZCALLTYPE INTEGER, ZDISCONNECTED_CAUSE INTEGER, ZFACE_TIME_DATA "
-            "INTEGER, "
-            "ZHANDLE_TYPE INTEGER, ZNUMBER_AVAILABILITY INTEGER, ZORIGINATED INTEGER, ZREAD INTEGER, "
-            "ZDATE TIMESTAMP, ZDURATION FLOAT, ZDEVICE_ID VARCHAR, ZISO_COUNTRY_CODE VARCHAR, ZLOCATION "
-            "VARCHAR, "
-            "ZNAME VARCHAR, ZSERVICE_PROVIDER VARCHAR, ZUNIQUE_ID VARCHAR, ZADDRESS BLOB);"
-            "INSERT INTO ZCALLRECORD (Z_PK, ZCALL_CATEGORY, ZDATE, ZLOCATION, ZADDRESS, ZUNIQUE_ID) VALUES "
-            "(7, 1, 447292800.5, 'Springfield', CAST('+15550100' AS BLOB), 'ID')");
+            "CREATE TABLE ZCALLRECORD (" +
+            std::string(GetParam().columns) +
+            ");"
+            "INSERT INTO ZCALLRECORD (Z_PK, Z_ENT, Z_OPT, ZANSWERED, ZCALL_CATEGORY, ZCALLTYPE, "
+            "ZDISCONNECTED_CAUSE, ZFACE_TIME_DATA, ZNUMBER_AVAILABILITY, ZORIGINATED, ZREAD, ZDATE, "
+            "ZDURATION, "
+            "ZADDRESS, ZDEVICE_ID, ZISO_COUNTRY_CODE, ZLOCATION, ZNAME, ZUNIQUE_ID) VALUES "
+            "(7, 2, 3, 1, 99, 8, 6, 10.5, 11, 0, 1, 447292800.5, 61.25, CAST('+15550100' AS BLOB), 'device', "
+            "'us', 'Springfield', 'Ann', 'ID')");
     }
 };
 
-TEST_F(CallHistoryOfLaterSystem, KeepsTheSeventeenColumnsByName) {
+TEST_P(CallHistoryOfLaterSystem, KeepsTheSeventeenColumnsByName) {
     EXPECT_TRUE(history().install(1000));
+    const std::string before = value(std::string("SELECT ") + keptColumns + " FROM ZCALLRECORD");
+    EXPECT_THAT(before, testing::HasSubstr("447292800.5|61.25|X'2B3135353530313030'|device|us|Ann|ID"));
     run("DELETE FROM ZCALLRECORD");
-    EXPECT_EQ(
-        value("SELECT Z_PK, ZDATE, CAST(ZADDRESS AS TEXT), typeof(ZADDRESS), ZUNIQUE_ID FROM ZVZCALLRECORD"),
-        "7|447292800.5|+15550100|blob|ID");
+    EXPECT_EQ(value(std::string("SELECT ") + keptColumns + " FROM ZVZCALLRECORD"), before);
+    EXPECT_EQ(value("SELECT count() FROM pragma_table_info('ZVZCALLRECORD')"), "17");
+    EXPECT_TRUE(history().uninstall());
 }
 
-TEST_F(CallHistoryOfLaterSystem, HasALifetimeThatCanBeReadAndSet) {
+TEST_P(CallHistoryOfLaterSystem, HasALifetimeThatCanBeReadAndSet) {
     EXPECT_EQ(history().lifetime(), 600);
     history().setLifetime(300);
     EXPECT_EQ(history().lifetime(), 300);
+}
+
+INSTANTIATE_TEST_SUITE_P(Every, CallHistoryOfLaterSystem, testing::ValuesIn(laterSystems),
+                         [](const auto &info) { return info.param.name; });
+
+// SQLite looks at a trigger's columns only when it runs.
+TEST_F(CallHistoryInstall, InATableThatLacksAColumnKeepsTheSystemFromDeleting) {
+    run("CREATE TABLE ZCALLRECORD (Z_PK INTEGER PRIMARY KEY, ZADDRESS VARCHAR, ZDATE TIMESTAMP);"
+        "INSERT INTO ZCALLRECORD VALUES (1, '555-0101', 0)");
+    EXPECT_TRUE(history().install(2000));
+    EXPECT_THROW(run("DELETE FROM ZCALLRECORD"), sim::SqlError);
+    EXPECT_EQ(value("SELECT ZADDRESS FROM ZCALLRECORD"), "555-0101");
+    EXPECT_TRUE(history().uninstall());
+    run("DELETE FROM ZCALLRECORD");
 }
 
 } // namespace

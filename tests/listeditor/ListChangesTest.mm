@@ -198,6 +198,37 @@ TEST_F(ListChanges, TheFirstChangeToAnUnreadableDocumentReplacesIt) {
     EXPECT_THAT(document(), ElementsAre(Pair("2", "Two")));
 }
 
+// Whoever is told of a change reads the document at once.
+TEST_F(ListChanges, AreWrittenBeforeTheyAreAnnounced) {
+    openBlacklist({{"1", "One"}});
+    std::vector<Entries> seen;
+    host::observeEvents([&](const host::Event &event) {
+        if (event.kind == host::EventKind::notification)
+            seen.push_back(document());
+    });
+    add("2", "Two");
+    person.tap("One");
+    person.retype("Phone Number", "3");
+    person.tap("Save");
+    person.swipe("Two");
+    person.confirmDelete();
+    person.tap("Select Contacts");
+    person.tap("Ann Lee");
+    person.tap("Done");
+    EXPECT_THAT(seen, ElementsAre(Entries{{"1", "One"}, {"2", "Two"}}, Entries{{"2", "Two"}, {"3", "One"}},
+                                  Entries{{"3", "One"}}, Entries{{"3", "One"}, {"5550101", "Ann Lee"}}));
+}
+
+TEST_F(ListChanges, KeepWhatADamagedDocumentHoldsBesides) {
+    device.write(userFile("black"), "<plist version=\"1.0\"><dict><key>1</key><integer>7</integer>"
+                                    "<key>2</key><array/></dict></plist>");
+    openList("Blacklist");
+    add("3", "Three");
+    NSDictionary *const kept = @{@"1" : @7, @"2" : @[], @"3" : @"Three"};
+    EXPECT_TRUE(
+        [[NSDictionary dictionaryWithContentsOfFile:text(device.path(userFile("black")))] isEqual:kept]);
+}
+
 TEST_F(ListChanges, ToThePriorityListAreAnnouncedLikeTheCodeTable) {
     openList("Priority List");
     add("1", "One");
