@@ -139,6 +139,18 @@ TEST_F(ContactSource, ReadsNamesAndLabelsOfAnySqlType) {
     EXPECT_THAT(contacts(), ElementsAre("5550102|1.5|Boat", "5550101|12345 Bob|7.5"));
 }
 
+TEST_F(ContactSource, ReadsADatabaseThatIsWrittenInUtf16) {
+    sim::SqlFile(m_addressBook)
+        .script("PRAGMA encoding = 'UTF-16';"
+                "CREATE TABLE ABPerson (First, Last);"
+                "CREATE TABLE ABMultiValue (record_id, property, label, value);"
+                "CREATE TABLE ABMultiValueLabel (value);"
+                "INSERT INTO ABPerson VALUES ('Zoë 🚀', '王');"
+                "INSERT INTO ABMultiValue VALUES (1, 3, 1, '电 555-0101');"
+                "INSERT INTO ABMultiValueLabel VALUES ('Böot')");
+    EXPECT_THAT(contacts(), ElementsAre("5550101|Zoë 🚀 王|Böot"));
+}
+
 TEST_F(ContactSource, TakesAPartThatIsNotValidUtf8AsAbsent) {
     AddressBookBuilder(m_addressBook)
         .person("Anna", "\xFF\xFE", "555-0101")

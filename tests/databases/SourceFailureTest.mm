@@ -120,14 +120,38 @@ TEST_F(SourceFailure, FilesThatMayOnlyBeReadAreEnough) {
     EXPECT_EQ(recentCalls(coreData).size(), 1U);
 }
 
-TEST_F(SourceFailure, DamageAnywhereNeverCrashes) {
-    makeBoth(50);
-    std::string whole = support::fileBytes(m_callHistory);
-    for (size_t place = 0; place < whole.size(); place += 61) {
+// Turns every so many bytes of a file in turn into others, then puts the file back.
+template<typename Look>
+void damageEach(const std::string &path, std::size_t step, Look look) {
+    const std::string whole = support::fileBytes(path);
+    for (std::size_t place = 0; place < whole.size(); place += step) {
         std::string damaged = whole;
         damaged[place] = static_cast<char>(~damaged[place]);
-        support::writeFile(m_callHistory, damaged);
-        EXPECT_LE(recentCalls(coreData).size(), 100U);
+        support::writeFile(path, damaged);
+        look();
+    }
+    support::writeFile(path, whole);
+}
+
+TEST_F(SourceFailure, DamageAnywhereNeverCrashes) {
+    makeBoth(50);
+    damageEach(m_callHistory, 61, [&] { EXPECT_LE(recentCalls(coreData).size(), 100U); });
+    damageEach(m_addressBook, 331, [&] { EXPECT_LE(contacts().size(), 5000U); });
+    EXPECT_EQ(recentCalls(coreData).size(), 50U);
+}
+
+TEST_F(SourceFailure, FilesCutAtAnyPageGiveTheRowsThatAreLeft) {
+    makeBoth(300);
+    const std::string book = support::fileBytes(m_addressBook), history = support::fileBytes(m_callHistory);
+    const Texts all = contacts();
+    for (std::size_t length = 0; length < book.size(); length += 4096) {
+        support::writeFile(m_addressBook, book.substr(0, length));
+        const Texts some = contacts();
+        EXPECT_EQ(some, Texts(all.begin(), all.begin() + static_cast<long>(some.size()))) << length;
+    }
+    for (std::size_t length = 0; length < history.size(); length += 4096) {
+        support::writeFile(m_callHistory, history.substr(0, length));
+        EXPECT_LE(recentCalls(coreData).size(), 300U) << length;
     }
 }
 

@@ -4,6 +4,7 @@
 #import "listeditor/ZVSettingsCustomViewController.h"
 
 #include "support/CallHistoryBuilder.h"
+#include "support/LockHolder.h"
 
 using support::text;
 using testing::Contains;
@@ -128,6 +129,30 @@ TEST_F(CallTimePage, ShowsWhatTheHistoryHoldsAfterAStoreThatFailed) {
     save("5");
     EXPECT_THAT(rows(actions), ElementsAre(Row{"0 hours 0 minutes", ""}));
     EXPECT_EQ(person.question().type, "");
+}
+
+TEST_F(CallTimePage, ShowsNothingOfAHistoryThatAnotherProcessHoldsAndKeepsIt) {
+    openWith(3600);
+    support::LockHolder holder(device.path(storedata), "UPDATE ZCALLRECORD SET ZNAME = NULL");
+    ASSERT_TRUE(holder.isHolding());
+    save("5");
+    EXPECT_THAT(rows(actions), ElementsAre(Row{"0 hours 0 minutes", ""}));
+    EXPECT_TRUE(holder.release());
+    EXPECT_EQ(stored(), "3600");
+}
+
+TEST_F(CallTimePage, ReadsAndStoresInTheHistoryOfTheSystemThatRuns) {
+    openWith(3600);
+    EXPECT_EQ([shownPage() getCallLifetime], 3600);
+    host::setSystemVersion("7.1.2");
+    EXPECT_EQ([shownPage() getCallLifetime], 0);
+    [shownPage() setCallLifetime:-60];
+    EXPECT_THAT(commands(), ElementsAre("/Library/Zelvora/zvtool -l -60"));
+    EXPECT_EQ(stored(), "3600");
+    host::setSystemVersion("8.0");
+    [shownPage() setCallLifetime:-60];
+    EXPECT_EQ(stored(), "-60");
+    EXPECT_EQ(commands().size(), 1U);
 }
 
 TEST_F(CallTimePage, LeavesTheStoringToTheToolOnOlderSystems) {

@@ -65,7 +65,7 @@ TEST_F(ListPageOdds, WithoutARootPageTheExclusionListAnnouncesNothing) {
 }
 
 TEST_F(ListPageOdds, AListIdThatIsNoTextIsAnUnknownOne) {
-    for (id listId in @[ @5, [NSNull null], @[ @"black" ], @{@"black" : @"black"} ]) {
+    for (id listId in @[ @5, [NSNull null], @[ @"black" ], [@"\U0001F600" substringToIndex:1] ]) {
         ZVSettingsCustomViewController *page = newPage(listId);
         EXPECT_EQ([[page valueForKey:@"customId"] intValue], 0);
         EXPECT_EQ([page valueForKey:@"saveplist"], nil);
@@ -82,6 +82,19 @@ TEST_F(ListPageOdds, APageThatIsToldNoSpecifierHasNoList) {
     [page settingsEditNumberViewControllerSaved:savedEditor(@{@"New" : [NSNull null]}, @"2")];
     [page reloadPlistDictionary:@{@"1" : @"One"}];
     EXPECT_EQ([page tableView:nil numberOfRowsInSection:entries], 0);
+}
+
+TEST_F(ListPageOdds, ATableThatOutlivesItsPageAsksNobody) {
+    UITableView *table = nil;
+    @autoreleasepool {
+        table = [tableOf(newPage(@"black")) retain];
+        [table reloadData];
+    }
+    EXPECT_EQ([table dataSource], nil);
+    EXPECT_EQ([table delegate], nil);
+    [table reloadData];
+    EXPECT_EQ([table numberOfSections], 0);
+    [table release];
 }
 
 TEST_F(ListPageOdds, AnEntryThatTheListDoesNotHaveCannotBeDeleted) {

@@ -5,6 +5,8 @@
 
 #import <Preferences/PSSpecifier.h>
 
+#include "support/Ownership.h"
+
 using support::propertyList;
 using support::text;
 using testing::ElementsAre;
@@ -126,6 +128,17 @@ TEST_F(ListPages, ActionsCannotBeSwipedAway) {
     EXPECT_TRUE(person.row("One").flag("swipeable"));
 }
 
+TEST_F(ListPages, OnlyEntriesCanBeEdited) {
+    ZVSettingsCustomViewController *page = newPage(@"black");
+    for (NSInteger section : {0, 1, 2}) {
+        NSIndexPath *path = [NSIndexPath indexPathForRow:0 inSection:section];
+        EXPECT_EQ([page tableView:nil canEditRowAtIndexPath:path], section == entries);
+        EXPECT_EQ([page tableView:nil editingStyleForRowAtIndexPath:path],
+                  section == entries ? UITableViewCellEditingStyleDelete : UITableViewCellEditingStyleNone);
+        EXPECT_EQ([page tableView:nil heightForRowAtIndexPath:path], section == entries ? 50 : 44);
+    }
+}
+
 TEST_F(ListPages, OtherCommitsThanDeletingAnEntryAreIgnored) {
     device.write(userFile("black"), propertyList({{"1", "One"}}));
     ZVSettingsCustomViewController *page = newPage(@"black");
@@ -201,6 +214,26 @@ TEST_F(ListPages, ALaterSpecifierChangesTheTitleButNotTheList) {
     [page setSpecifier:other];
     EXPECT_EQ(text([page title]), "Second");
     EXPECT_EQ([page tableView:(UITableView *)[page view] numberOfRowsInSection:entries], 1);
+    page = newPage(@"area");
+    [page setSpecifier:other];
+    EXPECT_EQ([page tableView:(UITableView *)[page view] numberOfRowsInSection:entries], 0);
+}
+
+TEST_F(ListPages, TellTheirBaseOfSpecifiersAndAppearances) {
+    static int appearances = 0;
+    const SEL appear = @selector(viewWillAppear:);
+    Class base = class_getSuperclass(classNamed("ZVSettingsCustomViewController"));
+    class_replaceMethod(base, appear, reinterpret_cast<IMP>(+[](id, SEL, BOOL) { ++appearances; }),
+                        method_getTypeEncoding(class_getInstanceMethod(base, appear)));
+    ZVSettingsCustomViewController *page = newPage(@"black");
+    EXPECT_EQ([[[page specifier] propertyForKey:@"_custom"] isEqual:@"black"], YES);
+    [page viewWillAppear:NO];
+    EXPECT_EQ(appearances, 1);
+}
+
+TEST_F(ListPages, GiveBackWhatTheyOwn) {
+    support::expectGivesBack({"_tableView", "_list", "_saveplist", "_defaultplist"},
+                             [this] { return newPage(@"black"); });
 }
 
 TEST_F(ListPages, TheTableIsThePagesViewBelowTheBars) {

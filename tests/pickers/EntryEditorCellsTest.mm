@@ -3,8 +3,10 @@
 
 #include "Dismissal.h"
 #import "support/BundleTest.h"
+#include "support/Ownership.h"
 
 using support::text;
+using support::variable;
 using testing::ElementsAre;
 
 /// A table that has one cell to reuse, and writes down which were asked for.
@@ -66,10 +68,6 @@ protected:
         return nil;
     }
 
-    static id variable(id object, const char *name) {
-        return object_getIvar(object, class_getInstanceVariable([object class], name));
-    }
-
     OneCellTable *table = nil;
     NSDictionary *both = @{@"name" : @"Ann", @"number" : @"12"};
 };
@@ -100,6 +98,15 @@ TEST_F(EntryEditorCells, KeepsTheVeryInfoThatItWasGiven) {
         EXPECT_EQ([info retainCount], before + 1);
     }
     EXPECT_EQ([info retainCount], before);
+}
+
+TEST_F(EntryEditorCells, GivesBackItsTexts) {
+    support::expectGivesBack({"_texts"}, [this] {
+        ZVSettingsEditNumberViewController *form = newForm(both);
+        [form saveButtonPressed:nil];
+        [form saveButtonPressed:nil];
+        return form;
+    });
 }
 
 TEST_F(EntryEditorCells, WithoutAnInfoIsAnEmptyFormOfTwoRows) {

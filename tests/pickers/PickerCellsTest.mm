@@ -6,6 +6,7 @@
 
 #include "support/AddressBookBuilder.h"
 #include "support/CallHistoryBuilder.h"
+#include "support/Ownership.h"
 
 using support::text;
 using testing::ElementsAre;
@@ -137,6 +138,12 @@ TEST_F(PickerCells, StartWithTheNumbersOfTheList) {
     EXPECT_TRUE([[newPicker() valueForKey:@"selects"] isEqual:@{}]);
 }
 
+TEST_F(PickerCells, GiveBackWhatTheyOwn) {
+    newAddressBook().person("Ann", "Lee", "555-0101");
+    support::expectGivesBack({"_selects", "_list", "_checkedImage", "_notcheckedImage"},
+                             [this] { return newPicker(@[ @{@"number" : @"1"} ]); });
+}
+
 TEST_F(PickerCells, AreSetUpOnceAndFilledEachTime) {
     newAddressBook().person("Ann", "Lee", "555-0101").person({}, {}, "555-0102", "_$!<Home>!$_");
     ZVSettingsSelectContactsViewController *picker = newPicker();
@@ -208,6 +215,11 @@ TEST_F(PickerCells, TellTheirOwnerOfDoneBeforeTheyAskToBeDismissed) {
     [picker doneButtonPressed:nil];
     EXPECT_THAT(owner->said, ElementsAre("done before 0 dismissals"));
     EXPECT_THAT(dismissal::requests, ElementsAre("animated and then"));
+}
+
+TEST_F(PickerCells, FindNothingDialableInATextThatIsNoUnicode) {
+    NSString *cut = [@"12\U0001F600" substringToIndex:3];
+    EXPECT_THAT(text([newPicker() keypadString:cut]), testing::AnyOf("", "12"));
 }
 
 TEST_F(PickerCells, NameContactsInTheOrderOfThePhone) {
