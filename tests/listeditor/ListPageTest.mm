@@ -128,6 +128,38 @@ TEST_F(ListPages, ActionsCannotBeSwipedAway) {
     EXPECT_TRUE(person.row("One").flag("swipeable"));
 }
 
+TEST_F(ListPages, ActionsAreNamedByListAndRow) {
+    open();
+    const std::pair<NSString *, const char *> firstRows[] = {{@"area", "Add Area"},
+                                                             {@"t9", "Add Code Table"},
+                                                             {@"black", "Add Number"},
+                                                             {@"white", "Add Number"},
+                                                             {@"exclude", "Add Number"},
+                                                             {@"priority", "Add Number"},
+                                                             {@"calltime", "0 hours 0 minutes"},
+                                                             {@"gray", ""}};
+    for (const auto &[listId, first] : firstRows) {
+        ZVSettingsCustomViewController *page = newPage(listId);
+        std::vector<std::string> shown;
+        for (NSInteger row = 0; row < 4; ++row) {
+            NSIndexPath *path = [NSIndexPath indexPathForRow:row inSection:actions];
+            UITableViewCell *cell = [page tableView:(UITableView *)[page view] cellForRowAtIndexPath:path];
+            EXPECT_EQ(text([cell reuseIdentifier]), "NameCell");
+            shown.push_back(text([[cell textLabel] text]));
+        }
+        EXPECT_THAT(shown, ElementsAre(first, "Select Contacts", "Select Call History", "")) << text(listId);
+    }
+}
+
+TEST_F(ListPages, EntriesHaveTheirNumbersInGray) {
+    ZVSettingsCustomViewController *page = newPage(@"black");
+    [page reloadPlistDictionary:@{@"1" : @"One"}];
+    UITableViewCell *cell = [page tableView:(UITableView *)[page view]
+                      cellForRowAtIndexPath:[NSIndexPath indexPathForRow:0 inSection:entries]];
+    EXPECT_EQ(text([cell reuseIdentifier]), "ListCell");
+    EXPECT_TRUE([[[cell detailTextLabel] textColor] isEqual:[UIColor grayColor]]);
+}
+
 TEST_F(ListPages, OnlyEntriesCanBeEdited) {
     ZVSettingsCustomViewController *page = newPage(@"black");
     for (NSInteger section : {0, 1, 2}) {
