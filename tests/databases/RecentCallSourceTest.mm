@@ -151,8 +151,14 @@ TEST_F(RecentCallSource, LeavesTheTypeAsItWasForACallWithoutDate) {
 }
 
 TEST_F(RecentCallSource, ReadsADateThatIsNoNumberAsZero) {
-    newer().call("555-0101", now).sql().script("UPDATE ZCALLRECORD SET ZDATE = 'yesterday'");
-    EXPECT_THAT(recentCalls(coreData), ElementsAre("5550101|-|" + shortDate(NSTimeIntervalSince1970)));
+    CallHistoryBuilder history = newer();
+    history.call("555-0101", now);
+    for (const char *date :
+         {"yesterday", "", "inf", "-infinity", "nan", "--447292800", "٤٤٧٢٩٢٨٠٠", "\xFF"}) {
+        history.sql().run("UPDATE ZCALLRECORD SET ZDATE = ?", {std::string(date)});
+        EXPECT_THAT(recentCalls(coreData), ElementsAre("5550101|-|" + shortDate(NSTimeIntervalSince1970)))
+            << date;
+    }
 }
 
 TEST_F(RecentCallSource, ReadsADateThatIsNoNumberInTheOlderHistoryAs1970) {

@@ -15,6 +15,7 @@ using testing::IsEmpty;
 namespace {
 
 std::vector<std::string> said; // by the two classes below
+UITableViewCell *reusable;     // what the table has to reuse, whatever is asked for
 
 std::string place(NSIndexPath *path) {
     return std::to_string([path section]) + "." + std::to_string([path row]);
@@ -52,6 +53,10 @@ void say(const std::string &what, NSArray *paths, UITableViewRowAnimation animat
     said.push_back(std::string(editing ? "edit" : "end editing") + (animated ? " animated" : ""));
     [super setEditing:editing animated:animated];
 }
+- (id)dequeueReusableCellWithIdentifier:(NSString *)identifier {
+    said.push_back("reuse " + text(identifier));
+    return reusable;
+}
 - (void)reloadData {
     said.emplace_back("reload all");
     [super reloadData];
@@ -83,7 +88,10 @@ namespace {
 
 class ListPageCalls : public ListPageTest {
 protected:
-    ListPageCalls() { said.clear(); }
+    ListPageCalls() {
+        said.clear();
+        reusable = nil;
+    }
 
     /// A page of its own, whose table and navigation controller write down what is asked of them.
     ZVSettingsCustomViewController *newPage(NSString *listId, const Entries &content = {}) {
@@ -167,6 +175,27 @@ TEST_F(ListPageCalls, TogglesInAPickerDoNotTouchTheTableUntilItIsDone) {
     EXPECT_THAT(said, IsEmpty());
     [page settingsSelectContactsViewControllerDone:nil];
     EXPECT_THAT(said, ElementsAre("reload all"));
+}
+
+TEST_F(ListPageCalls, AReusedCellHasItsTextsSetAndKeepsTheRest) {
+    ZVSettingsCustomViewController *page = newPage(@"black", {{"1", "One"}, {"2", ""}});
+    const auto show = [page](NSInteger section, NSInteger row) {
+        UITableViewCell *cell = [page tableView:tableOf(page)
+                          cellForRowAtIndexPath:[NSIndexPath indexPathForRow:row inSection:section]];
+        EXPECT_EQ(cell, reusable);
+        EXPECT_EQ([cell accessoryType], UITableViewCellAccessoryNone);
+        EXPECT_TRUE([[[cell detailTextLabel] textColor] isEqual:[UIColor redColor]]);
+        return text([[cell textLabel] text]) + " / " + text([[cell detailTextLabel] text]);
+    };
+    reusable = [[[UITableViewCell alloc] initWithStyle:UITableViewCellStyleSubtitle
+                                       reuseIdentifier:@"any"] autorelease];
+    [[reusable detailTextLabel] setTextColor:[UIColor redColor]];
+    EXPECT_EQ(show(entries, 0), "One / 1");
+    EXPECT_EQ(show(entries, 1), "2 / ");
+    EXPECT_EQ([[reusable detailTextLabel] text], nil);
+    EXPECT_EQ(show(actions, 1), "Select Contacts / ");
+    EXPECT_EQ(show(actions, 7), " / ");
+    EXPECT_THAT(said, ElementsAre("reuse ListCell", "reuse ListCell", "reuse NameCell", "reuse NameCell"));
 }
 
 TEST_F(ListPageCalls, TheEditButtonIsFollowedWithMotion) {

@@ -216,6 +216,18 @@ TEST_F(HistoryLimit, OfALockedHistoryFails) {
     EXPECT_EQ(message(), "Failed!");
 }
 
+TEST_F(HistoryLimit, OfALockedHistoryCannotBeLoweredButItsRecentsGo) {
+    open();
+    EXPECT_TRUE([rootPage() installSyncHistory:2000]);
+    support::LockHolder holder(device.path(storedata), "DELETE FROM ZVZCALLRECORD");
+    ASSERT_TRUE(holder.isHolding());
+    chooseDirectly(100);
+    EXPECT_EQ(person.question().type, "");
+    EXPECT_FALSE(device.exists(recents));
+    EXPECT_TRUE(holder.release());
+    EXPECT_EQ(limitInForce(), 2000);
+}
+
 TEST_F(HistoryLimit, OnOlderSystemsTheToolRaises) {
     host::setSystemVersion("7.1.2");
     open();
