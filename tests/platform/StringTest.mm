@@ -150,4 +150,21 @@ TEST_F(LoneSurrogate, ItCanBeAKey) {
         EXPECT_TRUE([[dictionary objectForKey:[text substringToIndex:2]] isEqual:@"v"]);
 }
 
+TEST(StringPaths, AnExtensionFollowsTheLastDotOfTheLastName) {
+    const std::pair<NSString *, NSString *> examples[] = {
+        {@"a.txt", @"a"},     {@"a.b.txt", @"a.b"}, {@"x/y.txt", @"x/y"}, {@"x.d/y", @"x.d/y"},
+        {@"a.", @"a"},        {@"a", @"a"},         {@"", @""},           {@"a.txt/", @"a"},
+        {@"/tmp/", @"/tmp"},  {@"/", @"/"},         {@"/a.txt", @"/a"},   {@"归属地.txt", @"归属地"},
+        {@"x/a.txt/", @"x/a"}};
+    for (const auto &[path, expected] : examples)
+        for (NSString *text : forms(path))
+            EXPECT_EQ(host::utf8([text stringByDeletingPathExtension]), host::utf8(expected));
+}
+
+TEST(StringPaths, AHiddenFileHasNoExtensionWhereverItLies) {
+    for (NSString *path : {@".txt", @"x/.txt", @"/.txt", @"x/y.d/.txt"})
+        for (NSString *text : forms(path))
+            EXPECT_EQ(host::utf8([text stringByDeletingPathExtension]), host::utf8(path));
+}
+
 } // namespace
