@@ -4,6 +4,8 @@
 #include "support/TestDevice.h"
 
 #import <AudioToolbox/AudioToolbox.h>
+#include <climits>
+#include <cmath>
 #include <gmock/gmock.h>
 
 namespace {
@@ -45,6 +47,17 @@ TEST_F(Vibration, OddRequestsStayWellFormed) {
     play(@{@"VibePattern" : @"text", @"Intensity" : @"strong"});
     play(@{@"VibePattern" : @[ @1 ]});
     EXPECT_THAT(played(), testing::Each(R"({"sound": 4095, "pattern": [], "intensity": 0})"));
+}
+
+TEST_F(Vibration, MillisecondsAreRecordedToTheLastAndWhatIsNoNumberAsNothing) {
+    play(@{
+        @"VibePattern" : @[ [NSNumber numberWithBool:YES], [NSNumber numberWithLongLong:LLONG_MAX] ],
+        @"Intensity" : [NSNumber numberWithFloat:HUGE_VALF]
+    });
+    play(@{@"VibePattern" : @[ @1, @"text" ], @"Intensity" : [NSNumber numberWithFloat:NAN]});
+    EXPECT_THAT(played(),
+                ElementsAre(R"({"sound": 4095, "pattern": [[true, 9223372036854775807]], "intensity": 0})",
+                            R"({"sound": 4095, "pattern": [[true, 0]], "intensity": 0})"));
 }
 
 TEST_F(Vibration, WhatIsNoPropertyListIsNotPlayed) {

@@ -5,7 +5,9 @@
 #include "Foundation/PropertyList.h"
 #include "host/EventLog.h"
 
+#include <cmath>
 #include <cstdio>
+#include <cstring>
 #include <string>
 
 namespace host {
@@ -14,24 +16,30 @@ namespace {
 VibrationRequest last;
 bool refuseNext = false;
 
-std::string number(double value) {
-    char text[32];
-    std::snprintf(text, sizeof text, "%.9g", value);
-    return text;
+// Whatever a page put in, the event's JSON stays well formed: it has no infinity and no "not a number".
+double amount(id value) {
+    const double number = [value isKindOfClass:[NSNumber class]] ? [value doubleValue] : 0;
+    return std::isfinite(number) ? number : 0;
 }
 
-// Whatever a page put in, the event's JSON stays well formed.
-double amount(id value) {
-    return [value isKindOfClass:[NSNumber class]] ? [value doubleValue] : 0;
+bool isInteger(id value) {
+    return [value isKindOfClass:[NSNumber class]] && std::strchr("fd", *[value objCType]) == nullptr;
+}
+
+std::string number(id value) {
+    if (isInteger(value))
+        return std::to_string([value longLongValue]);
+    char text[32];
+    std::snprintf(text, sizeof text, "%.9g", amount(value));
+    return text;
 }
 
 std::string phases(NSArray *pattern) {
     std::string text;
     for (NSUInteger i = 0; i + 1 < [pattern count]; i += 2) {
         const bool on = amount([pattern objectAtIndex:i]) != 0;
-        const double milliseconds = amount([pattern objectAtIndex:i + 1]);
-        text += std::string(text.empty() ? "[" : ", [") + (on ? "true, " : "false, ") + number(milliseconds) +
-                "]";
+        text += std::string(text.empty() ? "[" : ", [") + (on ? "true, " : "false, ") +
+                number([pattern objectAtIndex:i + 1]) + "]";
     }
     return "[" + text + "]";
 }
@@ -40,7 +48,7 @@ std::string description(SystemSoundID sound, NSDictionary *pattern) {
     id vibePattern = [pattern objectForKey:@"VibePattern"];
     return "{\"sound\": " + std::to_string(sound) +
            ", \"pattern\": " + phases([vibePattern isKindOfClass:[NSArray class]] ? vibePattern : nil) +
-           ", \"intensity\": " + number(amount([pattern objectForKey:@"Intensity"])) + "}";
+           ", \"intensity\": " + number([pattern objectForKey:@"Intensity"]) + "}";
 }
 
 void remember(SystemSoundID sound, id unused, NSDictionary *pattern) {
