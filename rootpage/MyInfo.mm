@@ -4,25 +4,33 @@ namespace zv {
 
 namespace {
 
-// A text of the card, nil where there is none or an empty one. The address book's copy is ours to release.
-NSString *textOf(ABRecordRef person, ABPropertyID property) {
-    NSString *text = [(NSString *)ABRecordCopyValue(person, property) autorelease];
-    return [text length] > 0 ? text : nil;
-}
-
 bool isFirstNameFirst() {
     return ABPersonGetCompositeNameFormatForRecord(NULL) == kABPersonCompositeNameFormatFirstNameFirst;
 }
 
+// A new text, which does not depend on the two names any longer; nil without either.
+NSString *joined(NSString *first, NSString *last) {
+    const bool hasFirst = [first length] > 0, hasLast = [last length] > 0;
+    if (hasFirst && hasLast)
+        return isFirstNameFirst() ? [NSString stringWithFormat:@"%@ %@", first, last]
+                                  : [NSString stringWithFormat:@"%@ %@", last, first];
+    if (!hasFirst && !hasLast)
+        return nil;
+    return [NSString stringWithString:hasFirst ? first : last];
+}
+
 } // namespace
 
+// The address book hands out copies that are ours to release.
 NSString *personName(ABRecordRef person) {
-    NSString *first = textOf(person, kABPersonFirstNameProperty);
-    NSString *last = textOf(person, kABPersonLastNameProperty);
-    if (!first || !last)
-        return first ? first : last;
-    return isFirstNameFirst() ? [NSString stringWithFormat:@"%@ %@", first, last]
-                              : [NSString stringWithFormat:@"%@ %@", last, first];
+    CFTypeRef first = ABRecordCopyValue(person, kABPersonFirstNameProperty);
+    CFTypeRef last = ABRecordCopyValue(person, kABPersonLastNameProperty);
+    NSString *name = joined((NSString *)first, (NSString *)last);
+    if (first)
+        CFRelease(first);
+    if (last)
+        CFRelease(last);
+    return name;
 }
 
 } // namespace zv

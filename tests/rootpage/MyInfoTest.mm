@@ -2,9 +2,10 @@
 #import "rootpage/ZelvoraSettingsController.h"
 #import "support/BundleTest.h"
 
+#include "AddressBook/Copies.h"
+#include "Foundation/MethodCorrection.h"
 #include "support/AddressBookBuilder.h"
-
-#include <objc/runtime.h>
+#include "support/BundleState.h"
 
 using support::text;
 using testing::ElementsAre;
@@ -18,11 +19,19 @@ constexpr const char *addressBook = "/var/mobile/Library/AddressBook/AddressBook
 using Saved = std::vector<std::pair<std::string, std::string>>; // key and value, in order
 
 Saved saved;
+std::vector<long> copiesWhenSaved; // the address book's copies that were still held
 void (*saveSettings)(id, SEL, id, NSString *);
 
+std::string described(id value) {
+    const std::string description = text([value description]);
+    return [value isKindOfClass:[NSNumber class]] ? "number " + description : description;
+}
+
 void recordSaving(id page, SEL selector, id value, NSString *key) {
-    if ([key hasPrefix:@"MyInfo"])
-        saved.emplace_back(text(key), text([value description]));
+    if ([key hasPrefix:@"MyInfo"]) {
+        saved.emplace_back(text(key), described(value));
+        copiesWhenSaved.push_back(host::outstandingCopies());
+    }
     saveSettings(page, selector, value, key);
 }
 
@@ -41,12 +50,11 @@ protected:
     // What the page saves leaves no trace by itself; this looks over its shoulder.
     void open() {
         BundleTest::open();
-        Method method =
-            class_getInstanceMethod(classNamed("ZelvoraSettingsController"), @selector(saveSettings:forKey:));
         if (!saveSettings)
-            saveSettings =
-                reinterpret_cast<decltype(saveSettings)>(method_setImplementation(method, IMP(recordSaving)));
+            saveSettings = reinterpret_cast<decltype(saveSettings)>(host::replaceMethod(
+                classNamed("ZelvoraSettingsController"), @selector(saveSettings:forKey:), IMP(recordSaving)));
         saved.clear();
+        copiesWhenSaved.clear();
     }
 
     Saved pick(const std::string &name) {
@@ -63,32 +71,43 @@ TEST_F(MyInfo, ThePickerShowsThePeopleWithTheirNumbers) {
     EXPECT_TRUE(person.sees("Ann Lee"));
 }
 
+TEST_F(MyInfo, ThePickerAsksForPhoneNumbersAndReportsToThePage) {
+    open();
+    [rootPage() myInfoAction:nil];
+    host::waitUntilIdle();
+    ABPeoplePickerNavigationController *picker =
+        static_cast<ABPeoplePickerNavigationController *>([rootPage() presentedViewController]);
+    ASSERT_TRUE([picker isKindOfClass:[ABPeoplePickerNavigationController class]]);
+    EXPECT_EQ([picker peoplePickerDelegate], rootPage());
+    EXPECT_TRUE([[picker displayedProperties] isEqual:@[ [NSNumber numberWithInt:kABPersonPhoneProperty] ]]);
+}
+
 TEST_F(MyInfo, AChosenPersonIsNamedFirstNameFirst) {
     open();
-    EXPECT_THAT(pick("Ann Lee"), ElementsAre(Pair("MyInfoName", "Ann Lee"), Pair("MyInfo", "1")));
+    EXPECT_THAT(pick("Ann Lee"), ElementsAre(Pair("MyInfoName", "Ann Lee"), Pair("MyInfo", "number 1")));
     EXPECT_EQ(person.title(), "Zelvora");
 }
 
 TEST_F(MyInfo, AChosenPersonIsNamedLastNameFirstWhereThatIsTheOrder) {
     host::setNameOrder(0, 1);
     open();
-    EXPECT_THAT(pick("Lee Ann"), ElementsAre(Pair("MyInfoName", "Lee Ann"), Pair("MyInfo", "1")));
+    EXPECT_THAT(pick("Lee Ann"), ElementsAre(Pair("MyInfoName", "Lee Ann"), Pair("MyInfo", "number 1")));
 }
 
 TEST_F(MyInfo, APersonWithOnlyALastNameHasThatName) {
     open();
-    EXPECT_THAT(pick("Moss"), ElementsAre(Pair("MyInfoName", "Moss"), Pair("MyInfo", "2")));
+    EXPECT_THAT(pick("Moss"), ElementsAre(Pair("MyInfoName", "Moss"), Pair("MyInfo", "number 2")));
 }
 
 TEST_F(MyInfo, AnEmptyNameCountsAsAbsent) {
     open();
-    EXPECT_THAT(pick("Nash"), ElementsAre(Pair("MyInfoName", "Nash"), Pair("MyInfo", "3")));
-    EXPECT_THAT(pick("Olga"), ElementsAre(Pair("MyInfoName", "Olga"), Pair("MyInfo", "4")));
+    EXPECT_THAT(pick("Nash"), ElementsAre(Pair("MyInfoName", "Nash"), Pair("MyInfo", "number 3")));
+    EXPECT_THAT(pick("Olga"), ElementsAre(Pair("MyInfoName", "Olga"), Pair("MyInfo", "number 4")));
 }
 
 TEST_F(MyInfo, ACompanyHasNoNameButItsRecord) {
     open();
-    EXPECT_THAT(pick("Acme"), ElementsAre(Pair("MyInfoName", ""), Pair("MyInfo", "5")));
+    EXPECT_THAT(pick("Acme"), ElementsAre(Pair("MyInfoName", ""), Pair("MyInfo", "number 5")));
 }
 
 TEST_F(MyInfo, CancellingStoresNothing) {
@@ -117,21 +136,32 @@ TEST_F(MyInfo, AChoiceIsNotAnnounced) {
     EXPECT_THAT(notifications(), IsEmpty());
 }
 
-TEST_F(MyInfo, CopiesOfNamesAreGivenBack) {
+TEST_F(MyInfo, TheNameThatTheStoreHoldsIsShown) {
+    open();
+    [support::sharedSettings() setObject:@"Ann Lee" forKey:@"MyInfoName"];
+    person.tap("Keypad");
+    person.back();
+    EXPECT_EQ(person.valueOf("My Info"), "Ann Lee");
+}
+
+TEST_F(MyInfo, CopiesOfNamesAreGivenBackBeforeAnythingIsSaved) {
     open();
     ABAddressBookRef book = ABAddressBookCreateWithOptions(NULL, NULL);
-    ABRecordRef ann = ABAddressBookGetPersonWithRecordID(book, 1);
-    NSString *first = (NSString *)ABRecordCopyValue(ann, kABPersonFirstNameProperty);
-    NSString *last = (NSString *)ABRecordCopyValue(ann, kABPersonLastNameProperty);
-    const NSUInteger before = [first retainCount] + [last retainCount];
-    @autoreleasepool {
-        [rootPage() peoplePickerNavigationController:nil shouldContinueAfterSelectingPerson:ann];
+    const long before = host::outstandingCopies();
+    for (ABRecordID record = 1; record <= 5; ++record) {
+        ABRecordRef card = ABAddressBookGetPersonWithRecordID(book, record);
+        EXPECT_FALSE([rootPage() peoplePickerNavigationController:nil
+                               shouldContinueAfterSelectingPerson:card]);
+        EXPECT_EQ(host::outstandingCopies(), before) << record;
     }
-    EXPECT_EQ([first retainCount] + [last retainCount], before);
-    EXPECT_EQ(saved.size(), 2U);
-    CFRelease(first);
-    CFRelease(last);
+    EXPECT_THAT(copiesWhenSaved, testing::AllOf(testing::SizeIs(10), testing::Each(before)));
     CFRelease(book);
+}
+
+TEST_F(MyInfo, ANumberThatIsNobodysIsSavedWithoutAName) {
+    open();
+    [rootPage() peoplePickerNavigationController:nil shouldContinueAfterSelectingPerson:NULL];
+    EXPECT_THAT(saved, ElementsAre(Pair("MyInfoName", ""), Pair("MyInfo", "number -1")));
 }
 
 TEST_F(MyInfo, NoPropertyIsEverFollowed) {

@@ -109,6 +109,7 @@ typedef struct {
 @interface NSString : NSObject <NSCopying>
 + (instancetype)string;
 + (instancetype)stringWithFormat:(NSString *)format, ... __attribute__((format(NSString, 1, 2)));
++ (instancetype)stringWithString:(NSString *)other;
 + (instancetype)stringWithUTF8String:(const char *)bytes;
 - (instancetype)initWithBytes:(const void *)bytes
                        length:(NSUInteger)length
