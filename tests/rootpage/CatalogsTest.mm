@@ -2,9 +2,14 @@
 #import "rootpage/ZelvoraSettingsController.h"
 #import "support/BundleTest.h"
 
-using support::Entries;
+#include "Foundation/MethodCorrection.h"
+#include "support/OrdinaryUser.h"
+
+#include <sys/stat.h>
+
 using support::propertyList;
 using support::text;
+using testing::Contains;
 using testing::ElementsAre;
 using testing::Pair;
 using testing::UnorderedElementsAre;
@@ -29,6 +34,15 @@ protected:
     void removeFolders() {
         for (const char *folder : {"/Library/Zelvora/Area", "/Library/Zelvora/Table", "/Library/Zelvora/T9"})
             device.remove(folder);
+    }
+
+    /// The keypad file holds the flag, and `others` as they were.
+    void expectFlaggedBeside(NSDictionary *others) const {
+        NSMutableDictionary *entries =
+            [NSMutableDictionary dictionaryWithContentsOfFile:text(device.path(keypad))];
+        EXPECT_TRUE([[entries objectForKey:@"AddressBookChanged"] boolValue]);
+        [entries removeObjectForKey:@"AddressBookChanged"];
+        EXPECT_TRUE([entries isEqual:others]) << text([entries description]);
     }
 
     ZelvoraSettingsController *page;
@@ -75,6 +89,52 @@ TEST_F(Catalogs, AreaFilesAreNeitherStrippedNorDescendedInto) {
     EXPECT_EQ(values, titles);
 }
 
+TEST_F(Catalogs, OnlyAnEndingIsDroppedAndOnlyOnce) {
+    for (const char *name : {"twice.txt.txt", "loud.TXT", "nodot_txt", ".txt", "x/.txt"})
+        device.write(std::string("/Library/Zelvora/Table/") + name, "");
+    EXPECT_THAT(texts([page getT9ListWithExtension:NO]),
+                UnorderedElementsAre("twice.txt", "loud.TXT", "nodot_txt", ".txt", "x", "x/.txt"));
+}
+
+TEST_F(Catalogs, NamesOfEveryKindAreListed) {
+    for (const char *name : {"with space", "归属地", ".hidden", "e\xcc\x81"}) {
+        device.write(std::string("/Library/Zelvora/Area/") + name, "");
+        device.write(std::string("/Library/Zelvora/T9/") + name + ".plist", "");
+    }
+    EXPECT_THAT(texts([page getAreaList]),
+                UnorderedElementsAre("with space", "归属地", ".hidden", "e\xcc\x81"));
+    EXPECT_THAT(texts([page getT9ListWithExtension:NO]),
+                UnorderedElementsAre("with space", "归属地", ".hidden", "e\xcc\x81"));
+}
+
+TEST_F(Catalogs, AFileInPlaceOfAFolderOffersNothing) {
+    removeFolders();
+    device.write("/Library/Zelvora/Area", "a file");
+    device.write("/Library/Zelvora/Table", "a file");
+    device.write("/Library/Zelvora/T9/Stroke.plist", "");
+    EXPECT_THAT(texts([page areaTitles:nil]), ElementsAre("None"));
+    EXPECT_THAT(texts([page t9Titles:nil]), ElementsAre("None", "Stroke"));
+}
+
+TEST_F(Catalogs, AFolderThatMayNotBeReadOffersNothing) {
+    device.write("/Library/Zelvora/Area/Utopia", "");
+    device.write("/Library/Zelvora/Table/Pinyin.txt", "");
+    for (const char *folder : {"/Library/Zelvora/Area", "/Library/Zelvora/Table"})
+        chmod(device.path(folder).c_str(), 0);
+    const support::OrdinaryUser user;
+    EXPECT_THAT(texts([page areaValues:nil]), ElementsAre(""));
+    EXPECT_THAT(texts([page t9Values:nil]), ElementsAre(""));
+}
+
+TEST_F(Catalogs, FilesInstalledMeanwhileAreOfferedWhenThePageReloads) {
+    open();
+    device.write("/Library/Zelvora/Table/Pinyin.txt", "");
+    person.tap("Keypad");
+    person.back();
+    person.tap("Code Table");
+    EXPECT_TRUE(person.sees("Pinyin"));
+}
+
 TEST_F(Catalogs, AreaFilesKeepTheOrderOfTheListing) {
     for (const char *name : {"b", "C", "a", "10", "9"})
         device.write(std::string("/Library/Zelvora/Area/") + name, "");
@@ -100,6 +160,83 @@ TEST_F(Catalogs, ChoosingACodeTableFlagsTheKeypadFileAndKeepsItsOtherEntries) {
     EXPECT_EQ(text([flags objectForKey:@"Other"]), "kept");
     EXPECT_EQ([flags count], 2U);
     EXPECT_THAT(device.read(keypad), testing::HasSubstr("<key>AddressBookChanged</key>\n\t<true/>"));
+}
+
+TEST_F(Catalogs, TheOtherEntriesOfTheKeypadFileKeepTheirTypes) {
+    NSDictionary *others = @{
+        @"text" : @"拨号 😀",
+        @"number" : @-7,
+        @"fraction" : @0.25,
+        @"yes" : [NSNumber numberWithBool:YES],
+        @"data" : [NSData dataWithBytes:"\0\xFF" length:2],
+        @"date" : [NSDate dateWithTimeIntervalSince1970:1425600000],
+        @"list" : @[ @"a",
+                     @{@"b" : @1} ],
+    };
+    NSString *path = text(device.path(keypad));
+    ASSERT_TRUE([others writeToFile:path atomically:YES]);
+    [page setT9Database:@"Pinyin.txt" forSpecifier:nil];
+    expectFlaggedBeside(others);
+}
+
+// The phone's own preference files are binary.
+TEST_F(Catalogs, TheOtherEntriesOfABinaryKeypadFileAreKeptToo) {
+    NSDictionary *others = @{@"text" : @"拨号 😀", @"list" : @[ @1, @{@"data" : [NSData data]} ]};
+    NSData *document = [NSPropertyListSerialization dataWithPropertyList:others
+                                                                  format:NSPropertyListBinaryFormat_v1_0
+                                                                 options:0
+                                                                   error:NULL];
+    ASSERT_TRUE([document writeToFile:text(device.path(keypad)) atomically:YES]);
+    [page setT9Database:@"Pinyin.txt" forSpecifier:nil];
+    expectFlaggedBeside(others);
+}
+
+TEST_F(Catalogs, AKeypadFileThatCannotBeWrittenIsNoConcern) {
+    device.makeFolder(keypad);
+    [page setT9Database:@"Pinyin.txt" forSpecifier:nil];
+    device.remove("/var/mobile/Library/Preferences");
+    [page setT9Database:@"Pinyin.txt" forSpecifier:nil];
+    EXPECT_FALSE(device.exists("/var/mobile/Library/Preferences"));
+}
+
+std::vector<std::pair<std::string, std::string>> saved; // key and value
+
+void recordSaving(id, SEL, id value, NSString *key) {
+    saved.emplace_back(text(key), text([value description]));
+}
+
+TEST_F(Catalogs, AChosenCodeTableIsHandedToTheStoreUnderTheKeyOfItsRow) {
+    host::replaceMethod([page class], @selector(saveSettings:forKey:), IMP(recordSaving));
+    device.write("/Library/Zelvora/Table/x/y.txt", "");
+    open();
+    saved.clear();
+    person.tap("Code Table");
+    person.tap("x/y");
+    EXPECT_THAT(saved, Contains(Pair("T9Database", "x/y.txt")));
+}
+
+std::vector<std::string> lookedUp;
+IMP lookUp;
+
+id recordLookUp(id bundle, SEL selector, NSString *key, NSString *value, NSString *table) {
+    EXPECT_EQ(table, nil);
+    EXPECT_EQ(text(key), text(value));
+    lookedUp.push_back(text(key));
+    return reinterpret_cast<id (*)(id, SEL, id, id, id)>(lookUp)(bundle, selector, key, value, table);
+}
+
+// Deliberately the areas' alone.
+TEST_F(Catalogs, TheEmptyValueOfTheAreasIsLookedUpAndThatOfTheCodeTablesIsNot) {
+    const SEL lookingUp = @selector(localizedStringForKey:value:table:);
+    lookUp = host::replaceMethod([NSBundle class], lookingUp, IMP(recordLookUp));
+    (void)[page areaValues:nil];
+    EXPECT_THAT(lookedUp, ElementsAre(""));
+    (void)[page t9Values:nil];
+    EXPECT_THAT(lookedUp, ElementsAre(""));
+    (void)[page areaTitles:nil];
+    (void)[page t9Titles:nil];
+    EXPECT_THAT(lookedUp, ElementsAre("", "None", "None"));
+    host::replaceMethod([NSBundle class], lookingUp, lookUp);
 }
 
 TEST_F(Catalogs, ChoosingNoneFlagsTheKeypadFileToo) {

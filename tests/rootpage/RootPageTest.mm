@@ -65,6 +65,32 @@ TEST_F(RootPages, OtherSheetsRestartNothing) {
     EXPECT_THAT(commands(), ElementsAre("killall SpringBoard"));
 }
 
+// Eight by eight pixels, the header alone.
+const std::string
+    smallImage("\x89PNG\r\n\x1A\n\0\0\0\rIHDR\0\0\0\x08\0\0\0\x08\x08\x06\0\0\0\xC4\x0F\xBE\x8B", 33);
+
+TEST_F(RootPages, TheToolsButtonShowsTheInstalledImage) {
+    device.write("/Library/Zelvora/tools.png", smallImage);
+    open();
+    UIBarButtonItem *tools = [[rootPage() navigationItem] rightBarButtonItem];
+    EXPECT_EQ([[tools image] size].width, 8);
+    EXPECT_EQ([tools style], UIBarButtonItemStylePlain);
+    EXPECT_EQ([tools target], rootPage());
+    EXPECT_EQ(text(NSStringFromSelector([tools action])), "toolsButtonPressed:");
+}
+
+TEST_F(RootPages, AButtonThatIsAlreadyThereIsLeftAlone) {
+    load();
+    ZelvoraSettingsController *page = [[[classNamed("ZelvoraSettingsController") alloc] init] autorelease];
+    UIBarButtonItem *own = [[[UIBarButtonItem alloc] initWithTitle:@"Own"
+                                                             style:UIBarButtonItemStylePlain
+                                                            target:nil
+                                                            action:NULL] autorelease];
+    [[page navigationItem] setRightBarButtonItem:own];
+    [page viewWillAppear:NO];
+    EXPECT_EQ([[page navigationItem] rightBarButtonItem], own);
+}
+
 TEST_F(RootPages, TheToolsButtonIsMadeOnceAPage) {
     open();
     UIBarButtonItem *tools = [[rootPage() navigationItem] rightBarButtonItem];
@@ -113,9 +139,37 @@ TEST_F(RootPages, AnUnreadableListShowsTheCountOfItsDefaultCopy) {
     EXPECT_EQ(person.valueOf("Blacklist"), "2");
 }
 
+TEST_F(RootPages, AListOfWhichNoDocumentCanBeReadShowsNoCount) {
+    device.write(defaultBlacklist, "<plist><array/></plist>");
+    device.write(blacklist, "garbage <<<");
+    open();
+    EXPECT_EQ(person.valueOf("Blacklist"), "");
+}
+
+TEST_F(RootPages, EntriesOfAnyTypeAreCountedAtTheTopAlone) {
+    device.write(blacklist, "<plist><dict><key>1</key><dict><key>a</key><true/><key>b</key><true/></dict>"
+                            "<key>2</key><array/><key></key><false/></dict></plist>");
+    open();
+    EXPECT_EQ(person.valueOf("Blacklist"), "3");
+}
+
+TEST_F(RootPages, EveryListIsCountedByItsOwnDocument) {
+    int count = 0;
+    for (const std::string listId : {"area", "t9", "black", "white", "priority", "exclude"})
+        device.write("/var/mobile/Library/Preferences/zelvora." + listId + ".plist",
+                     propertyList(entries(++count)));
+    open();
+    count = 0;
+    for (const char *row :
+         {"Area Prefixes", "Keypad Codes", "Blacklist", "Whitelist", "Priority List", "Exclusion List"})
+        EXPECT_EQ(person.valueOf(row), std::to_string(++count)) << row;
+}
+
 TEST_F(RootPages, ALinkWithoutAListShowsNoCount) {
     open();
+    EXPECT_EQ(text([rootPage() getCustomCount:nil]), "");
     EXPECT_EQ(countFor(nil), "");
+    EXPECT_EQ(countFor(@""), "");
     EXPECT_EQ(countFor(@"unknown"), "");
     EXPECT_EQ(countFor(@"calltime"), "");
 }
@@ -134,6 +188,19 @@ TEST_F(RootPages, SupportMailNamesTheSystemAndTheBuild) {
     person.tap("Email Us");
     EXPECT_THAT(host::eventTexts(EventKind::url),
                 ElementsAre("mailto:support@zelvora.example?subject=Zelvora%20%5B7121A7%5D"));
+}
+
+TEST_F(RootPages, SupportMailNamesVersionsOfAnyLength) {
+    open();
+    for (const auto &[version, digits] :
+         {std::pair("8.0", "80"), {"8.1.2", "812"}, {"10.3.3", "1033"}, {"9", "9"}}) {
+        host::forgetEvents();
+        host::setSystemVersion(version);
+        [rootPage() emailAction:nil];
+        EXPECT_THAT(host::eventTexts(EventKind::url),
+                    ElementsAre("mailto:support@zelvora.example?subject=Zelvora%20%5B" + std::string(digits) +
+                                "1A7%5D"));
+    }
 }
 
 TEST_F(RootPages, TheMicroblogIsOpened) {
@@ -162,6 +229,12 @@ TEST_F(RootPages, TheSpecifiersAreLoadedOnceAndTheSameArrayIsReturned) {
     open();
     EXPECT_EQ([rootPage() specifiers], [rootPage() specifiers]);
     EXPECT_GT([[rootPage() specifiers] count], 10U);
+}
+
+TEST_F(RootPages, TheRowsActOnThePage) {
+    open();
+    for (PSSpecifier *row in [rootPage() specifiers])
+        EXPECT_EQ([row target], rootPage()) << text([row name]);
 }
 
 } // namespace

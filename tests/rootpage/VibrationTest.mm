@@ -5,6 +5,8 @@
 #include "AudioToolbox/Vibration.h"
 #include "support/BundleState.h"
 
+#include <climits>
+#include <cmath>
 #include <nlohmann/json.hpp>
 
 using host::EventKind;
@@ -75,7 +77,41 @@ TEST_F(VibrationTests, TheRequestHoldsBooleansAndIntegersInTurn) {
         [NSNumber numberWithBool:YES], @300, [NSNumber numberWithBool:NO], @200,
         [NSNumber numberWithBool:YES], @300
     ];
-    EXPECT_TRUE([[request.pattern objectForKey:@"VibePattern"] isEqual:expected]);
+    NSArray *phases = [request.pattern objectForKey:@"VibePattern"];
+    EXPECT_TRUE([phases isEqual:expected]);
+    for (NSUInteger index = 0; index + 1 < [phases count]; index += 2) {
+        EXPECT_TRUE([[phases objectAtIndex:index] isKindOfClass:[[expected objectAtIndex:0] class]]) << index;
+        EXPECT_FALSE([[phases objectAtIndex:index + 1] isKindOfClass:[[expected objectAtIndex:0] class]]);
+    }
+}
+
+TEST_F(VibrationTests, EachSettingThatIsAbsentHasItsOwnDefault) {
+    open();
+    store(@"ConnectedVibrateTotalDuration", 1.2);
+    EXPECT_THAT(test().phases, ElementsAre(Pair(true, 500), Pair(false, 0), Pair(true, 500), Pair(false, 0),
+                                           Pair(true, 200)));
+    host::forgetEvents();
+    store(@"ConnectedVibrateOffDuration", 0.5);
+    EXPECT_THAT(test().phases, ElementsAre(Pair(true, 500), Pair(false, 500), Pair(true, 200)));
+    EXPECT_NEAR(vibrations().back().intensity, 0.3, 1e-6);
+}
+
+TEST_F(VibrationTests, DurationsOfTheCallerAreUsedToTheirLastMillisecond) {
+    open();
+    [rootPage() vibrateWithIntensity:0.5F totalDuration:LONG_MAX onDuration:LONG_MAX offDuration:-1];
+    EXPECT_THAT(vibrations().back().phases, ElementsAre(Pair(true, LONG_MAX)));
+    [rootPage() vibrateWithIntensity:0.5F totalDuration:-1 onDuration:-5 offDuration:LONG_MAX];
+    EXPECT_THAT(vibrations().back().phases, ElementsAre(Pair(true, -5)));
+}
+
+TEST_F(VibrationTests, AnIntensityThatIsNoNumberIsPassedOnToo) {
+    open();
+    for (const float intensity : {NAN, HUGE_VALF, -1.0F}) {
+        [rootPage() vibrateWithIntensity:intensity totalDuration:1 onDuration:1 offDuration:0];
+        const float passed = [[host::lastVibration().pattern objectForKey:@"Intensity"] floatValue];
+        EXPECT_TRUE(passed == intensity || (std::isnan(passed) && std::isnan(intensity))) << intensity;
+    }
+    EXPECT_EQ(vibrations().size(), 3U) << "the event log is well formed";
 }
 
 TEST_F(VibrationTests, StoredSecondsArePlayedAsMilliseconds) {

@@ -2,6 +2,7 @@
 #import "rootpage/ZelvoraSettingsController.h"
 #import "support/BundleTest.h"
 
+#include "Foundation/MethodCorrection.h"
 #include "support/BundleState.h"
 
 using support::propertyList;
@@ -71,14 +72,30 @@ TEST_F(RootStore, StartsEmptyWithEachFirstRootPage) {
     [page release];
 }
 
+id refuse(id page, SEL) {
+    [page release];
+    return nil;
+}
+
+TEST_F(RootStore, ARootPageThatThePlatformRefusesLeavesNoTrace) {
+    const IMP init = host::replaceMethod([PSListController class], @selector(init), IMP(refuse));
+    EXPECT_EQ(newRootPage(), nil);
+    EXPECT_EQ(rootPage(), nil);
+    EXPECT_EQ(support::sharedSettings(), nil);
+    host::replaceMethod([PSListController class], @selector(init), init);
+}
+
 TEST_F(RootStore, SavingChangesNothing) {
     writeEveryFile();
     const auto files = device.list(folder);
     const std::string content = device.read(preferences);
     ZelvoraSettingsController *page = newRootPage();
+    [support::sharedSettings() setObject:@"Olga" forKey:@"MyInfoName"];
     [page saveSettings:@"Ann" forKey:@"MyInfoName"];
+    [page saveSettings:@7 forKey:@"CallHistoryLimit"];
     [page saveSettings:nil forKey:@"MyInfoName"];
-    EXPECT_EQ([support::sharedSettings() count], 0U);
+    [page saveSettings:[NSNull null] forKey:nil];
+    EXPECT_TRUE([support::sharedSettings() isEqual:@{@"MyInfoName" : @"Olga"}]);
     EXPECT_EQ(device.list(folder), files);
     EXPECT_EQ(device.read(preferences), content);
     [page release];
@@ -106,12 +123,39 @@ TEST_F(RootStore, ResetRenewsItAndLeavesTheMirrorAlone) {
     device.write(preferences, propertyList({{"Key", "old"}}));
     ZelvoraSettingsController *page = newRootPage();
     [page viewWillDisappear:NO];
-    [support::sharedSettings() setObject:@"Ann" forKey:@"MyInfoName"];
+    NSMutableDictionary *old = [[support::sharedSettings() retain] autorelease];
+    [old setObject:@"Ann" forKey:@"MyInfoName"];
     [page resetAllSettingsAction:nil];
     EXPECT_NE(support::sharedSettings(), nil);
+    EXPECT_NE(support::sharedSettings(), old);
     EXPECT_EQ([support::sharedSettings() count], 0U);
+    EXPECT_EQ([old count], 1U);
     EXPECT_EQ([support::settingsMirror() count], 1U);
     [page release];
+}
+
+TEST_F(RootStore, ClearingLeavesBothDictionariesAlone) {
+    device.write(preferences, propertyList({{"Key", "old"}}));
+    ZelvoraSettingsController *page = newRootPage();
+    [page viewWillDisappear:NO];
+    NSMutableDictionary *settings = support::sharedSettings();
+    [settings setObject:@"Ann" forKey:@"MyInfoName"];
+    [page clearDataAction:nil];
+    EXPECT_EQ(support::sharedSettings(), settings);
+    EXPECT_EQ([settings count], 1U);
+    EXPECT_EQ([support::settingsMirror() count], 1U);
+    [page release];
+}
+
+TEST_F(RootStore, AfterAResetThePagesShowTheOldValues) {
+    open();
+    person.tap("Enable Zelvora");
+    person.tap("Keypad"); // loads the mirror
+    person.back();
+    EXPECT_EQ(person.valueOf("Enable Zelvora"), "0");
+    person.tap("Reset All Settings");
+    EXPECT_EQ(person.valueOf("Enable Zelvora"), "0");
+    EXPECT_FALSE(device.exists(preferences));
 }
 
 TEST_F(RootStore, ResetAndClearAreAnnouncedToNobody) {

@@ -1,9 +1,10 @@
 // What every list-style page adds to the platform's: translated texts, and rows that are up to date when the
 // page comes back.
+#import "rootpage/ZelvoraSettingsController.h"
 #import "settings/ZVSettingsViewController.h"
 #import "support/BundleTest.h"
 
-#include <objc/runtime.h>
+#include "Foundation/MethodCorrection.h"
 
 using support::text;
 using testing::ElementsAre;
@@ -94,6 +95,44 @@ TEST_F(GermanPages, ThePageIsTitledWithTheTranslatedNameOfItsRow) {
     EXPECT_EQ(text([[page navigationItem] title]), "Nummer");
 }
 
+TEST_F(GermanPages, APageWithoutATitleStaysWithoutOne) {
+    ZVSettingsViewController *page = newPage();
+    [page setTitle:nil];
+    EXPECT_EQ(text([page title]), "");
+    [page setTitle:@""];
+    EXPECT_EQ(text([page title]), "");
+    [page setSpecifier:named(nil)];
+    EXPECT_EQ(text([[page navigationItem] title]), "");
+    [page setSpecifier:nil];
+    EXPECT_EQ(text([[page navigationItem] title]), "");
+}
+
+TEST_F(GermanPages, NothingToTranslateIsNothing) {
+    EXPECT_EQ([newPage() localizedSpecifiersForSpecifiers:nil], nil);
+}
+
+TEST_F(GermanPages, SpecifiersAreTranslatedAtEveryCall) {
+    open();
+    PSSpecifier *row = [[rootPage() specifiers] objectAtIndex:1];
+    [row setName:@"Cancel"];
+    EXPECT_EQ([[rootPage() specifiers] objectAtIndex:1], row);
+    EXPECT_EQ(text([row name]), "Abbrechen");
+    (void)[rootPage() specifiers];
+    EXPECT_EQ(text([row name]), "Abbrechen");
+}
+
+TEST_F(GermanPages, SpecifiersOfAChildPageAreTranslatedAtEveryCall) {
+    ZVSettingsViewController *page = newPage();
+    PSSpecifier *opener = named(@"Ziffernblatt");
+    [opener setProperty:@"Keypad" forKey:@"id"];
+    [page setSpecifier:opener];
+    PSSpecifier *row = [[page specifiers] objectAtIndex:1];
+    EXPECT_EQ(text([row name]), "Beim Wählen suchen");
+    [row setName:@"Cancel"];
+    EXPECT_EQ([[page specifiers] objectAtIndex:1], row);
+    EXPECT_EQ(text([row name]), "Abbrechen");
+}
+
 TEST_F(GermanPages, TheRootPageSpeaksGerman) {
     open();
     EXPECT_TRUE(person.sees("Whitelist"));
@@ -110,10 +149,9 @@ void countReload(id page, SEL selector) {
 class PageReloads : public support::BundleTest {
 protected:
     PageReloads() {
-        Method method = class_getInstanceMethod([PSListController class], @selector(reloadSpecifiers));
         if (!reloadSpecifiers)
-            reloadSpecifiers =
-                reinterpret_cast<void (*)(id, SEL)>(method_setImplementation(method, IMP(countReload)));
+            reloadSpecifiers = reinterpret_cast<void (*)(id, SEL)>(
+                host::replaceMethod([PSListController class], @selector(reloadSpecifiers), IMP(countReload)));
         reloads = 0;
     }
 };
@@ -133,6 +171,20 @@ TEST_F(PageReloads, LeavingAChildPageTwiceReloadsItsParentTwice) {
     person.tap("Keypad");
     person.back();
     EXPECT_EQ(reloads, 2);
+}
+
+TEST_F(PageReloads, APageReloadsOnceItHasAppearedAndNotBefore) {
+    ZVSettingsViewController *page = [[[classNamed("ZVSettingsViewController") alloc] init] autorelease];
+    [page viewDidAppear:NO];
+    EXPECT_EQ(reloads, 0);
+    [page viewWillDisappear:NO];
+    [page viewWillDisappear:NO];
+    [page viewWillAppear:NO];
+    EXPECT_EQ(reloads, 0);
+    [page viewDidAppear:NO];
+    EXPECT_EQ(reloads, 1);
+    [page viewDidAppear:NO];
+    EXPECT_EQ(reloads, 1);
 }
 
 TEST_F(PageReloads, ASheetReloadsNothing) {

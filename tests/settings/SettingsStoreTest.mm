@@ -5,6 +5,8 @@
 
 #include "support/BundleState.h"
 
+#include <climits>
+
 using support::propertyList;
 using support::text;
 using testing::ElementsAre;
@@ -81,10 +83,12 @@ TEST_F(SettingsStore, AChangeOnAChildPageIsAnnouncedByTheRootPage) {
 TEST_F(SettingsStore, AChangeWithoutARootPageIsStoredButNotAnnounced) {
     ZVSettingsViewController *page = newPage();
     ASSERT_EQ(rootPage(), nil);
+    loadMirror();
     [page setPreferenceValue:@1 specifier:control(@"Lonely", nil)];
     host::advance(10);
     EXPECT_THAT(notifications(), IsEmpty());
     EXPECT_EQ(valueInFile("Lonely"), "1");
+    EXPECT_EQ(text([[support::settingsMirror() objectForKey:@"Lonely"] description]), "1");
 }
 
 TEST_F(SettingsStore, TheControlsOwnNotificationIsPostedAtOnce) {
@@ -159,10 +163,50 @@ TEST_F(SettingsStore, SettingNilRemovesTheEntry) {
     EXPECT_EQ([support::settingsMirror() objectForKey:@"Key"], nil);
 }
 
+TEST_F(SettingsStore, AStoredNoIsReadThoughTheDefaultIsYes) {
+    device.write(preferences, "<plist><dict><key>Key</key><false/></dict></plist>");
+    loadMirror();
+    id value = [newPage() readPreferenceValue:control(@"Key", [NSNumber numberWithBool:YES])];
+    ASSERT_NE(value, nil);
+    EXPECT_FALSE([value boolValue]);
+}
+
+TEST_F(SettingsStore, ValuesKeepTheirTypesInTheMirrorAndInTheFile) {
+    loadMirror();
+    NSArray *values = @[
+        [NSNumber numberWithBool:NO], @-1, [NSNumber numberWithLongLong:LLONG_MAX], @0.25, @"", @"拨号 😀",
+        [NSData data], @[ @"a" ]
+    ];
+    ZVSettingsViewController *page = newPage();
+    for (id value in values) {
+        [page setPreferenceValue:value specifier:control(@"Key", nil)];
+        EXPECT_EQ([page readPreferenceValue:control(@"Key", nil)], value);
+        NSDictionary *file = [NSDictionary dictionaryWithContentsOfFile:text(device.path(preferences))];
+        EXPECT_TRUE([[file objectForKey:@"Key"] isEqual:value]) << text([value description]);
+    }
+}
+
 TEST_F(SettingsStore, AControlWithoutAKeyChangesNothing) {
     loadMirror();
     [newPage() setPreferenceValue:@1 specifier:control(nil, nil)];
+    [newPage() setPreferenceValue:@1 specifier:nil];
+    [newPage() setPreferenceValue:nil specifier:nil];
     EXPECT_EQ([support::settingsMirror() count], 0U);
+    EXPECT_EQ(text([newPage() readPreferenceValue:control(nil, @"default")]), "default");
+    EXPECT_EQ([newPage() readPreferenceValue:nil], nil);
+}
+
+TEST_F(SettingsStore, AChangeThatCannotBeStoredIsStillMirroredAndAnnounced) {
+    open();
+    person.tap("Keypad"); // loads the mirror
+    person.back();
+    device.remove(preferences);
+    device.makeFolder(preferences);
+    person.tap("Enable Zelvora");
+    EXPECT_FALSE([[support::settingsMirror() objectForKey:@"Enabled"] boolValue]);
+    EXPECT_EQ([support::settingsMirror() count], 1U);
+    host::advance(3);
+    EXPECT_THAT(notifications(), ElementsAre("ZVSettingsChanged"));
 }
 
 TEST_F(SettingsStore, UnusableFilesReadAsEmpty) {
