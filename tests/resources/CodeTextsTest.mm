@@ -49,6 +49,13 @@ TEST(CodeTexts, EveryTextOfTheTableIsInTheCode) {
         EXPECT_TRUE(literals.contains(key)) << key;
 }
 
+TEST(CodeTexts, EveryTextOfAlertsSheetsAndCatalogsIsInTheTable) {
+    const auto english = table("en", "Localizable");
+    for (const char *text : {"Alert", "Are you sure you want to continue?", "Cancel", "OK", "Failed!",
+                             "Succeed!", "Respring", "None"})
+        EXPECT_TRUE(english.contains(text)) << text;
+}
+
 TEST(CodeTexts, EveryTextOfTheListPagesIsInTheTable) {
     const auto english = table("en", "Localizable");
     for (const auto &entry : zv::listKinds) {

@@ -52,6 +52,9 @@ using Table = std::map<std::string, std::string>;
 /// The string tables of a language, by name, without ".strings".
 [[nodiscard]] std::vector<std::string> tableNames(const std::string &language);
 
+/// The string table in the words of a failure message.
+[[nodiscard]] std::string where(const std::string &language, const std::string &name);
+
 /// Names of a folder's entries that end in `suffix`, without it, in order.
 [[nodiscard]] std::vector<std::string> namesIn(const std::string &folder, const std::string &suffix);
 

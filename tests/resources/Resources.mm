@@ -132,6 +132,10 @@ std::vector<std::string> tableNames(const std::string &language) {
     return namesIn(kBundle + "/" + language + ".lproj", ".strings");
 }
 
+std::string where(const std::string &language, const std::string &name) {
+    return language + ".lproj/" + name + ".strings";
+}
+
 Table table(const std::string &language, const std::string &name) {
     @autoreleasepool {
         Table result;
