@@ -159,8 +159,8 @@ TEST_P(TranslatedPages, TheCallTimeIsTranslated) {
     open();
     visit("Keep Calls");
     const auto row = rows(0).at(0).text;
-    EXPECT_NE(row.find(shown("Localizable", "hours")), std::string::npos) << row;
-    EXPECT_NE(row.find(shown("Localizable", "minutes")), std::string::npos) << row;
+    EXPECT_THAT(row, testing::HasSubstr(" " + shown("Localizable", "hours") + " "));
+    EXPECT_THAT(row, testing::EndsWith(" " + shown("Localizable", "minutes")));
 }
 
 TEST_P(TranslatedPages, TheToolsSheetIsTranslated) {

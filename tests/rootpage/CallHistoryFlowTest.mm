@@ -2,6 +2,7 @@
 #import "rootpage/ZelvoraSettingsController.h"
 #import "support/BundleTest.h"
 
+#include "Foundation/MethodCorrection.h"
 #include "support/CallHistoryBuilder.h"
 #include "support/LockHolder.h"
 
@@ -226,6 +227,37 @@ TEST_F(HistoryLimit, OfALockedHistoryCannotBeLoweredButItsRecentsGo) {
     EXPECT_FALSE(device.exists(recents));
     EXPECT_TRUE(holder.release());
     EXPECT_EQ(limitInForce(), 2000);
+}
+
+std::vector<std::string> saved; // key and value
+
+void recordSaving(id, SEL, id value, NSString *key) {
+    EXPECT_TRUE([value isKindOfClass:[NSNumber class]]);
+    saved.push_back(support::text(key) + " " + support::text([value description]));
+}
+
+// What the page saves leaves no trace by itself; this looks over its shoulder.
+TEST_F(HistoryLimit, IsHandedToTheStoreWheneverItIsReadOrChanged) {
+    open();
+    ASSERT_TRUE(person.sees("History Limit")) << "whose row has been read by now";
+    host::replaceMethod(classNamed("ZelvoraSettingsController"), @selector(saveSettings:forKey:),
+                        IMP(recordSaving));
+    (void)limitInForce();
+    EXPECT_THAT(saved, ElementsAre("CallHistoryLimit 100")) << "read";
+    saved.clear();
+    chooseDirectly(2000);
+    EXPECT_THAT(saved, IsEmpty()) << "asked";
+    person.answer("OK");
+    EXPECT_THAT(saved, ElementsAre("CallHistoryLimit 2000", "CallHistoryLimit 2000")) << "raised";
+    person.answer("OK");
+    saved.clear();
+    chooseDirectly(1500);
+    person.answer("OK");
+    EXPECT_THAT(saved, ElementsAre("CallHistoryLimit 100")) << "failed";
+    person.answer("OK");
+    saved.clear();
+    chooseDirectly(50);
+    EXPECT_THAT(saved, ElementsAre("CallHistoryLimit 100")) << "lowered";
 }
 
 TEST_F(HistoryLimit, OnOlderSystemsTheToolRaises) {

@@ -90,10 +90,11 @@ TEST_F(Catalogs, AreaFilesAreNeitherStrippedNorDescendedInto) {
 }
 
 TEST_F(Catalogs, OnlyAnEndingIsDroppedAndOnlyOnce) {
-    for (const char *name : {"twice.txt.txt", "loud.TXT", "nodot_txt", ".txt", "x/.txt"})
+    for (const char *name : {"twice.txt.txt", "other.xtxt", "loud.TXT", "nodot_txt", ".txt", "x/.txt"})
         device.write(std::string("/Library/Zelvora/Table/") + name, "");
-    EXPECT_THAT(texts([page getT9ListWithExtension:NO]),
-                UnorderedElementsAre("twice.txt", "loud.TXT", "nodot_txt", ".txt", "x", "x/.txt"));
+    EXPECT_THAT(
+        texts([page getT9ListWithExtension:NO]),
+        UnorderedElementsAre("twice.txt", "other.xtxt", "loud.TXT", "nodot_txt", ".txt", "x", "x/.txt"));
 }
 
 TEST_F(Catalogs, NamesOfEveryKindAreListed) {

@@ -101,10 +101,16 @@ TEST_F(GermanPages, APageWithoutATitleStaysWithoutOne) {
     EXPECT_EQ(text([page title]), "");
     [page setTitle:@""];
     EXPECT_EQ(text([page title]), "");
-    [page setSpecifier:named(nil)];
-    EXPECT_EQ(text([[page navigationItem] title]), "");
-    [page setSpecifier:nil];
-    EXPECT_EQ(text([[page navigationItem] title]), "");
+}
+
+TEST_F(GermanPages, ARowWithoutANameTakesTheTitleFromTheBar) {
+    for (PSSpecifier *nameless : {named(nil), static_cast<PSSpecifier *>(nil)}) {
+        ZVSettingsViewController *page = newPage();
+        [page setTitle:@"Gibberish"];
+        [page setSpecifier:nameless];
+        EXPECT_EQ([page specifier], nameless);
+        EXPECT_EQ(text([[page navigationItem] title]), "");
+    }
 }
 
 TEST_F(GermanPages, NothingToTranslateIsNothing) {

@@ -186,6 +186,13 @@ TEST_F(SettingsStore, ValuesKeepTheirTypesInTheMirrorAndInTheFile) {
     }
 }
 
+TEST_F(SettingsStore, AValueThatNoFileCanHoldLeavesTheFileAsItWas) {
+    device.write(preferences, propertyList({{"Key", "old"}, {"Other", "kept"}}));
+    const std::string before = device.read(preferences);
+    [newPage() setPreferenceValue:[NSNull null] specifier:control(@"Key", nil)];
+    EXPECT_EQ(device.read(preferences), before);
+}
+
 TEST_F(SettingsStore, AControlWithoutAKeyChangesNothing) {
     loadMirror();
     [newPage() setPreferenceValue:@1 specifier:control(nil, nil)];
