@@ -201,8 +201,8 @@ TEST_F(ListChanges, TheFirstChangeToAnUnreadableDocumentReplacesIt) {
 // Whoever is told of a change reads the document at once.
 TEST_F(ListChanges, AreWrittenBeforeTheyAreAnnounced) {
     openBlacklist({{"1", "One"}});
-    std::vector<Entries> seen;
-    host::observeEvents([&](const host::Event &event) {
+    static std::vector<Entries> seen; // the observer outlives the test
+    host::observeEvents([this](const host::Event &event) {
         if (event.kind == host::EventKind::notification)
             seen.push_back(document());
     });

@@ -5,6 +5,7 @@
 #include "support/TestDevice.h"
 
 #include <filesystem>
+#include <fstream>
 #include <gmock/gmock.h>
 
 using support::Entries;
@@ -88,6 +89,31 @@ TEST_F(ListDocuments, ACorruptUserDocumentHidesTheDefaultCopy) {
     }
 }
 
+// A dictionary whose one key is the number 1.
+TEST_F(ListDocuments, ADocumentWithAKeyThatIsNoTextReadsAsEmpty) {
+    const std::string objects("\xD1\x01\x02\x10\x01\x51x", 7), offsets("\x08\x0B\x0D", 3);
+    const std::string trailer("\0\0\0\0\0\0\1\1\0\0\0\0\0\0\0\3\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\x0F", 32);
+    device.write(userFile, "bplist00" + objects + offsets + trailer);
+    EXPECT_THAT(read(), IsEmpty());
+    blacklist().put(@"3", @"Three");
+    EXPECT_THAT(userEntries(), ElementsAre(Pair("3", "Three")));
+}
+
+TEST_F(ListDocuments, ABinaryDocumentOfAnotherProgramIsReadAndItCanReadTheAnswer) {
+    const auto python = [this](const std::string &program) {
+        const std::string command = "cd '" + device.path("/var/mobile/Library/Preferences") +
+                                    "' && python3 -c 'import plistlib\n" + program + "'";
+        FILE *pipe = popen(command.c_str(), "r");
+        return pipe && pclose(pipe) == 0;
+    };
+    ASSERT_TRUE(python("plistlib.dump({\"10086\": \"\\u4e2d\\U0001F600\", \"9\": \"\"}, "
+                       "open(\"zelvora.black.plist\", \"wb\"), fmt=plistlib.FMT_BINARY)"));
+    EXPECT_THAT(read(), ElementsAre(Pair("10086", "\u4e2d\U0001F600"), Pair("9", "")));
+    blacklist().put(@"*#;,+", @"<&>\"\u7535");
+    EXPECT_TRUE(python("assert plistlib.load(open(\"zelvora.black.plist\", \"rb\")) == "
+                       "{\"10086\": \"\\u4e2d\\U0001F600\", \"9\": \"\", \"*#;,+\": \"<&>\\\"\\u7535\"}"));
+}
+
 TEST_F(ListDocuments, ACorruptDefaultCopyReadsAsEmpty) {
     device.write(defaultFile, "garbage <<<");
     EXPECT_THAT(read(), IsEmpty());
@@ -157,6 +183,14 @@ TEST_F(ListDocuments, ChangesReturnTheDocumentThatWasWritten) {
     EXPECT_EQ([blacklist().put(@"1", @"One") count], 1U);
     EXPECT_EQ([blacklist().replace(@"1", @"2", @"Two") count], 1U);
     EXPECT_EQ([blacklist().remove(@"2") count], 0U);
+}
+
+TEST_F(ListDocuments, WhoeverReadsDuringAChangeSeesAllOfTheOldDocument) {
+    device.write(userFile, propertyList({{"1", "One"}}));
+    std::ifstream reader(device.path(userFile), std::ios::binary);
+    blacklist().put(@"2", @"Two");
+    EXPECT_EQ(std::string(std::istreambuf_iterator<char>(reader), {}), propertyList({{"1", "One"}}));
+    EXPECT_THAT(userEntries(), ElementsAre(Pair("1", "One"), Pair("2", "Two")));
 }
 
 TEST_F(ListDocuments, AMissingFolderLosesTheWriteInSilence) {

@@ -181,6 +181,16 @@ TEST_F(EntryEditorCells, StoresANumberKeyThatNobodyReads) {
     EXPECT_EQ([key retainCount], before);
 }
 
+TEST_F(EntryEditorCells, DoesNotGiveBackANumberKey) {
+    NSString *key = [NSMutableString stringWithString:@"other"];
+    const NSUInteger before = [key retainCount];
+    @autoreleasepool {
+        [newForm(both) setNumberKey:key];
+    }
+    ASSERT_EQ([key retainCount], before + 1) << "deliberate: nothing in the bundle sets it";
+    [key release];
+}
+
 TEST_F(EntryEditorCells, TellsItsOwnerBeforeItAsksToBeDismissed) {
     ZVSettingsEditNumberViewController *form = newForm(both);
     WatchingOwner *owner = [[[WatchingOwner alloc] init] autorelease];

@@ -4,6 +4,7 @@
 
 #include "support/CallHistoryBuilder.h"
 
+#include <fstream>
 #include <objc/runtime.h>
 
 using support::text;
@@ -150,6 +151,16 @@ TEST_F(HistoryLimitCalls, OtherAnswersDoNothing) {
     answer(1, 10085);
     [rootPage() alertView:nil clickedButtonAtIndex:1];
     EXPECT_THAT(done, IsEmpty());
+}
+
+TEST_F(HistoryLimitCalls, WhoeverReadsTheRecentsMeanwhileSeesAllOfThem) {
+    device.write(recents, support::propertyList({{"some", "call"}}));
+    std::ifstream reader(device.path(recents), std::ios::binary);
+    choose(@2000);
+    answer();
+    EXPECT_EQ(std::string(std::istreambuf_iterator<char>(reader), {}),
+              support::propertyList({{"some", "call"}}));
+    EXPECT_THAT(support::entriesOf(device, recents), IsEmpty());
 }
 
 TEST_F(HistoryLimitCalls, RecentsThatAreDamagedAreEmptiedOrRemovedToo) {
