@@ -1,6 +1,7 @@
 #include "databases/CallHistory.h"
 #include "host/EventLog.h"
 #include "support/CallHistoryBuilder.h"
+#include "support/LockHolder.h"
 #include "support/TemporaryFolder.h"
 #include "support/TestDevice.h"
 
@@ -105,6 +106,15 @@ TEST_F(Zvtool, FailsOnAFileThatIsNoCallHistory) {
     m_device.write(callHistoryPath, "no database");
     EXPECT_EQ(run("-i 2000"), failed);
     EXPECT_EQ(m_device.read(callHistoryPath), "no database");
+}
+
+TEST_F(Zvtool, FailsOnAHistoryThatAnotherProcessHolds) {
+    makeHistory();
+    support::LockHolder holder(m_path, "DELETE FROM call");
+    ASSERT_TRUE(holder.isHolding());
+    EXPECT_EQ(run("-i 2000"), failed);
+    EXPECT_TRUE(holder.release());
+    EXPECT_EQ(property("call_history_limit"), "100");
 }
 
 TEST_F(Zvtool, RefusesArgumentsThatMeanNothing) {
