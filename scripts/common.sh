@@ -16,7 +16,8 @@ need() {
         sudo=(sudo)
     fi
     "${sudo[@]}" apt-get update -qq
-    "${sudo[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -o DPkg::Lock::Timeout=300 install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
+    "${sudo[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends \
+        -o DPkg::Lock::Timeout=300 "${missing[@]}" >/dev/null
 }
 
 # want COMMAND-NAME PACKAGE...: as need, but goes on without what cannot be had.
@@ -30,11 +31,18 @@ need_build_tools() {
         libplist-dev libsqlite3-dev libcpp-httplib-dev nlohmann-json3-dev node-preact python3 librsvg2-bin "$@"
 }
 
-# build PRESET [TARGET...]: configures when needed and builds.
+# What drives a browser. A node that does not come from Debian brings its own npm; Debian's would not go beside it.
+need_browser_tools() {
+    if ! command -v node >/dev/null || ! command -v npm >/dev/null; then need 'the browser' nodejs npm; fi
+    command -v chromium >/dev/null || need 'the browser' chromium
+    [[ -d tests/browser/node_modules ]] || npm --prefix tests/browser ci --no-audit --no-fund
+}
+
+# build PRESET [TARGET...]: configures, since packages may have come since the last time, and builds.
 build() {
     local preset=$1 targets=()
     shift
-    [[ -f build/$preset/build.ninja ]] || cmake --preset "$preset" >/dev/null
+    cmake --preset "$preset" >/dev/null
     (($# > 0)) && targets=(--target "$@")
     cmake --build --preset "$preset" "${targets[@]}"
 }

@@ -8,12 +8,9 @@ case "${1:-}" in
     -h | --help) sed -n '2,3s/^# //p' scripts/shots.sh; exit ;;
     *) ;;
 esac
-need_build_tools chromium fonts-liberation fonts-wqy-microhei
-# Node.js may have come with its npm from elsewhere, beside which Debian's npm cannot be installed.
-command -v node >/dev/null || need 'the pictures' nodejs
-command -v npm >/dev/null || need 'the pictures' npm
+need_build_tools fonts-liberation fonts-wqy-microhei
+need_browser_tools
 build host zelvora-simulator
-[[ -d tests/browser/node_modules/playwright-core ]] || npm --prefix tests/browser ci --silent
 mkdir -p build/shots
 languages=("$@")
 if (($# == 0)); then
