@@ -162,6 +162,18 @@ TEST_F(EntryEditorCells, DoesNotMoveAFieldIntoASecondCell) {
     EXPECT_EQ(text([field text]), "12") << "its text comes from the edit info again";
 }
 
+TEST_F(EntryEditorCells, LeavesNothingInAFieldOfWhichTheInfoSaysNothing) {
+    NSMutableDictionary *info = [NSMutableDictionary dictionaryWithDictionary:both];
+    [info setObject:@"Which" forKey:@"NumberPlaceholder"];
+    ZVSettingsEditNumberViewController *form = newForm(info);
+    UITableViewCell *first = cell(form, 1);
+    EXPECT_EQ(text([fieldOf(first) placeholder]), "Which");
+    [info removeAllObjects];
+    (void)cell(form, 1);
+    EXPECT_EQ(text([fieldOf(first) text]), "");
+    EXPECT_EQ([fieldOf(first) placeholder], nil);
+}
+
 TEST_F(EntryEditorCells, TakesAnyNumberAsKeyboard) {
     for (NSNumber *keyboard in @[ @5, @0, @4 ]) {
         ZVSettingsEditNumberViewController *form = newForm(@{@"NumberKeyboardType" : keyboard});
