@@ -211,6 +211,19 @@ TEST_F(ContactSource, MakesRecordsThatCanBeChanged) {
     EXPECT_EQ(recordText(record), "5550101|Anna First|3/6/15");
 }
 
+TEST_F(ContactSource, GivesRecordsThatBelongToTheListAlone) {
+    AddressBookBuilder(m_addressBook)
+        .person("A long first name", "and a last one", "+1 (555) 010-9999", "A long label");
+    NSMutableArray *records = [NSMutableArray array];
+    @autoreleasepool {
+        zv::appendContacts(m_addressBook.c_str(), byFirstName, records);
+    }
+    NSDictionary *record = [records objectAtIndex:0];
+    EXPECT_EQ([record retainCount], 1U);
+    for (NSString *key in @[ @"number", @"name", @"type" ])
+        EXPECT_EQ([[record objectForKey:key] retainCount], 1U) << [key UTF8String];
+}
+
 TEST_F(ContactSource, GivesNothingForAnEmptyAddressBook) {
     AddressBookBuilder book(m_addressBook);
     EXPECT_THAT(contacts(), IsEmpty());

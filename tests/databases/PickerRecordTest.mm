@@ -71,6 +71,22 @@ TEST_F(PickerRecord, RefusesNilAsAnyDictionaryDoes) {
     EXPECT_EQ([m_record objectForKey:nil], nil);
 }
 
+TEST_F(PickerRecord, HoldsEachMemberOnceUntilItIsReplacedOrGone) {
+    NSObject *member = [[[NSObject alloc] init] autorelease];
+    @autoreleasepool {
+        ZVPickerRecord *record = [[[ZVPickerRecord alloc] init] autorelease];
+        for (NSString *key in @[ @"number", @"name", @"type", @"other" ]) {
+            [record setObject:member forKey:key];
+            [record setObject:member forKey:key];
+        }
+        EXPECT_EQ([member retainCount], 5U);
+        [record setObject:@"x" forKey:@"name"];
+        [record removeObjectForKey:@"type"];
+        EXPECT_EQ([member retainCount], 3U);
+    }
+    EXPECT_EQ([member retainCount], 1U);
+}
+
 TEST_F(PickerRecord, GivesEachKeyAndObjectOnce) {
     [m_record setObject:@"x" forKey:@"other"];
     std::vector<std::string> seen;

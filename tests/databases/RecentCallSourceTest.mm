@@ -90,6 +90,21 @@ TEST_F(RecentCallSource, ReusesTheVeryDictionaryOfTheContact) {
     EXPECT_EQ([records objectAtIndex:0], contact);
 }
 
+TEST_F(RecentCallSource, GivesRecordsThatBelongToTheListAlone) {
+    AddressBookBuilder(m_addressBook).person("Robert", "Miller", "+1 (555) 010-9999");
+    newer().call("+15550109999", now).call("+1 (555) 010-1111", now - 48 * hour);
+    NSMutableArray *records = [NSMutableArray array];
+    @autoreleasepool {
+        zv::appendContacts(m_addressBook.c_str(), byFirstName, records);
+        zv::replaceWithRecentCalls(records, m_callHistory.c_str(), coreData, now);
+    }
+    ASSERT_EQ([records count], 2U);
+    for (NSDictionary *record in records) {
+        EXPECT_EQ([record retainCount], 1U);
+        EXPECT_EQ([[record objectForKey:@"number"] retainCount], 1U);
+    }
+}
+
 TEST_F(RecentCallSource, GivesANumberThatTwoContactsHaveToTheOneCreatedEarliest) {
     AddressBookBuilder(m_addressBook)
         .person("Anna", "Earliest", "555-0101")

@@ -33,8 +33,11 @@ BOOL uninstall(id, SEL) {
     return NO;
 }
 
+NSMutableArray *shown; // in place of the screen
+
 void show(id self, SEL) {
     UIAlertView *alert = self;
+    [shown addObject:alert];
     std::string buttons;
     for (NSInteger index = 0; index < [alert numberOfButtons]; ++index)
         buttons += (index == [alert cancelButtonIndex] ? " *" : " ") + text([alert buttonTitleAtIndex:index]);
@@ -53,6 +56,7 @@ protected:
             .call("555-0101", 1425600000);
         open();
         done.clear();
+        shown = [NSMutableArray array];
         replace([rootPage() class], @selector(saveSettings:forKey:), reinterpret_cast<IMP>(saveSettings));
         replace([UIAlertView class], @selector(show), reinterpret_cast<IMP>(show));
     }
@@ -90,6 +94,16 @@ TEST_F(HistoryLimitCalls, AConfirmedRaiseIsReadBackAndRecordedTwice) {
     answer();
     EXPECT_THAT(done, ElementsAre("save CallHistoryLimit 2000", "save CallHistoryLimit 2000",
                                   "show Alert: Succeed! *OK, tag 0"));
+}
+
+TEST_F(HistoryLimitCalls, AlertsBelongToTheScreenAlone) {
+    @autoreleasepool {
+        choose(@2000);
+        answer();
+    }
+    ASSERT_EQ([shown count], 2U);
+    EXPECT_EQ([[shown objectAtIndex:0] retainCount], 1U);
+    EXPECT_EQ([[shown objectAtIndex:1] retainCount], 1U);
 }
 
 TEST_F(HistoryLimitCalls, AFailedRaiseIsRecordedAsItIsReadBack) {
