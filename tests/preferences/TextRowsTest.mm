@@ -126,6 +126,17 @@ TEST_F(TextRows, ADisabledFieldTakesNoText) {
     EXPECT_EQ(person.focusedField().type, "");
 }
 
+TEST_F(TextRows, TheRowThatIsTypedIntoStandsAboveTheKeyboard) {
+    const auto lowest = [&] { return person.row("Notes").rect.y + person.row("Notes").rect.height; };
+    const double keyboardTop = host::screen().rect.height - 216;
+    ASSERT_GT(lowest(), keyboardTop);
+    person.tap("Notes");
+    EXPECT_LE(lowest(), keyboardTop);
+    person.retype("Slogan", "la");
+    person.pressReturn();
+    EXPECT_GT(lowest(), keyboardTop) << "the room is taken back";
+}
+
 TEST_F(TextRows, ATextOfSeveralLinesIsStoredWhenEditingEnds) {
     EXPECT_EQ(person.valueOf("Notes"), "Two lines\nof notes");
     EXPECT_GT(person.row("Notes").rect.height, 44);

@@ -27,6 +27,7 @@ namespace key = host::key;
 }
 
 - (void)dealloc {
+    [self _hostIgnoreKeyboard];
     [self _hostUnloadBundles];
     [_table setDataSource:nil];
     [_table setDelegate:nil];
@@ -100,6 +101,7 @@ namespace key = host::key;
     [self _hostRegroup];
     [_table setDataSource:self];
     [_table setDelegate:self];
+    [self _hostFollowKeyboard];
 }
 
 - (UITableView *)table {

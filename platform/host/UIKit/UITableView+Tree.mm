@@ -32,6 +32,7 @@ UIViewController *pageOf(UIResponder *responder) {
     attributes["contentHeight"] = double(self.contentSize.height);
     attributes["offset"] = double(self.contentOffset.y);
     attributes["top"] = double(self.contentInset.top);
+    attributes["bottom"] = double(self.contentInset.bottom);
     attributes["editing"] = table.editing;
     return YES;
 }
