@@ -143,7 +143,7 @@ CGFloat widthOf(NSString *text, UIFont *font) {
 - (CGRect)_hostTitlePlace:(CGFloat)width {
     const CGSize bar = [self bounds].size;
     __block CGFloat left =
-        [_bar->controller _hostHasBackButton] ? CGRectGetMaxX([self _hostBackPlace]) : sideMargin;
+        [_bar->controller _hostHasBackButton] ? CGRectGetMaxX([self _hostBackPlace]) + gap : sideMargin;
     __block CGFloat right = bar.width - sideMargin;
     [self _hostEachItem:[[self topItem] leftBarButtonItems]
                fromLeft:YES
