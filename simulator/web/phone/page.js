@@ -28,7 +28,7 @@ export class Page extends Component {
       'aria-label': page.title,
       inert: covered,
     },
-      page.elements.filter(isBar).map((bar) => h(NavigationBar, { key: 'bar', bar, perform })),
+      page.elements.filter(isBar).map((bar) => h(NavigationBar, { key: 'bar', bar, context })),
       h('div', { class: 'page-content', key: 'content' },
         page.elements.filter((element) => !isBar(element)).map((element, index) =>
           h(ElementView, { key: element.number ?? index, element, context, title: page.title }))));
