@@ -4,11 +4,11 @@ import { h, Component } from '/vendor/preact/preact.js';
 
 import { attribute, classes } from '/model/elements.js';
 import { Backspace, Shift } from '/phone/glyphs.js';
-import { layoutOf, padLetters } from '/phone/keyboards.js';
+import { layoutOf, padLetters, wordOn } from '/phone/keyboards.js';
 
 const turning = ['123', 'ABC', '+*#'];
-const faces = { delete: h(Backspace), shift: h(Shift), space: 'space' };
-const isLetter = (key) => /^[a-z]$/.test(key);
+const faces = { delete: h(Backspace), shift: h(Shift) };
+const isLetter = (key) => /^\p{Ll}$/u.test(key);
 
 const fieldOf = (keyboard) => document.querySelector(`[data-field="${attribute(keyboard, 'field')}"]`);
 
@@ -57,11 +57,11 @@ export class Keyboard extends Component {
       class: classes('key', key === '' && 'key-empty', key.length > 1 && `key-wide key-${key.replace(/\W/g, '')}`),
       onPointerdown: (event) => event.preventDefault(), // the field keeps the focus
       onClick: () => this.press(key),
-    }, faces[key] ?? this.face(key), letters && h('small', null, letters));
+    }, faces[key] ?? wordOn(this.face(key), this.props.language), letters && h('small', null, letters));
   }
 
-  render({ keyboard }, { turned }) {
-    const layout = keyboard && layoutOf(attribute(keyboard, 'keyboard'));
+  render({ keyboard, language }, { turned }) {
+    const layout = keyboard && layoutOf(attribute(keyboard, 'keyboard'), language);
     const lines = layout && ((turned && layout.second) || layout.first);
     return h('div', { class: classes('keyboard', keyboard && 'shown', layout?.pad && 'pad'), 'aria-hidden': 'true' },
       lines && lines.map((line, row) => h('div', { key: row, class: `key-row key-row-${row}` },

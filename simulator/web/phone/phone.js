@@ -31,8 +31,9 @@ export class Phone extends Component {
   render({ screen, store, device }) {
     const { width, height } = screen.rect;
     const popup = childOf(screen, isPopup);
+    const language = attribute(screen, 'language');
     const old = parseFloat(device?.systemVersion ?? '8') < 8;
-    return h('div', { class: classes('phone', old && 'ios7'), lang: attribute(screen, 'language') },
+    return h('div', { class: classes('phone', old && 'ios7'), lang: language },
       h('div', { class: 'phone-ear', 'aria-hidden': 'true' }),
       h('div', {
         class: classes('screen', attribute(screen, 'scale') === 3 && 'screen-3x'),
@@ -41,8 +42,8 @@ export class Phone extends Component {
         onClickCapture: this.closeSwipe,
       },
         h(Stage, { screen, perform: this.perform, gestures: store.gestures, covered: Boolean(popup) }),
-        h(StatusBar),
-        h(Keyboard, { keyboard: ofType(screen, 'Keyboard')[0], perform: this.perform }),
+        h(StatusBar, { locale: device && `${device.language}-${device.region}` }),
+        h(Keyboard, { keyboard: ofType(screen, 'Keyboard')[0], language, perform: this.perform }),
         h(Popups, { popup, perform: this.perform })),
       h('div', { class: 'phone-home', 'aria-hidden': 'true' }));
   }
