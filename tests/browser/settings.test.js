@@ -76,6 +76,24 @@ test('the vibration test draws its pattern', async () => {
   assert.match(await card.innerText(), /500 ms, strength 0.3/);
 });
 
+test('a text row low on the page is written above the keyboard', async () => {
+  await person.scrollTo('Keypad');
+  await person.tap('Keypad');
+  await person.title('Keypad');
+  await person.scrollTo('Prefix Number');
+  const field = person.front.getByPlaceholder('Optional');
+  await field.click();
+  await person.page.locator('.keyboard.shown').waitFor();
+  await person.settled();
+  const [box, screen] = [await field.boundingBox(), await person.screen.boundingBox()];
+  assert.ok(box.y + box.height <= screen.y + screen.height - 216 + 1, 'the field is above the keyboard');
+  await person.page.keyboard.type('0045');
+  assert.equal(await field.inputValue(), '0045');
+  await person.pressBar('Zelvora'); // a number pad has no Return key
+  await person.title('Zelvora');
+  await person.file('zelvora.plist', 'DialingPrefix', '0045');
+});
+
 test('a list that was scrolled down by hand scrolls up again', async () => {
   const table = person.front.locator('.table');
   for (const offset of [0, 1200, 0]) {

@@ -1,7 +1,8 @@
-// The search field above a list.
+// The search field above a list, in its gray bar.
 import { h } from '/vendor/preact/preact.js';
 
 import { attribute, isEnabled } from '/model/elements.js';
+import { Magnifier } from '/phone/glyphs.js';
 import { LiveText } from '/phone/live-text.js';
 
 export class SearchField extends LiveText {
@@ -22,6 +23,13 @@ export class SearchField extends LiveText {
         onCompositionend: this.composed,
         onFocus: this.focus,
         onKeydown: this.key,
+      }),
+      // Stands in the middle until the field is used, as the phone has it.
+      h('span', { class: 'search-sign', 'aria-hidden': 'true' }, h(Magnifier), h('span', null, placeholder)),
+      element.value && h('button', {
+        type: 'button', class: 'clear-button', 'aria-label': 'Clear text', tabIndex: -1,
+        onPointerdown: (event) => event.preventDefault(),
+        onClick: () => this.act('clear'),
       }));
   }
 }

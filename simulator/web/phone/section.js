@@ -14,7 +14,7 @@ const SectionText = ({ element, wanted, origin, id }) => {
   return h(wanted === 'header' ? 'h3' : 'p', { id, class: `section-${wanted}`, style }, text.label);
 };
 
-export const Section = ({ section, context, title, origin }) => {
+export const Section = ({ section, context, title, origin, remembered }) => {
   const { header, rows, footer, other, number } = section;
   if (other)
     return h(ElementView, { element: other, context, origin });
@@ -23,6 +23,6 @@ export const Section = ({ section, context, title, origin }) => {
     'aria-labelledby': header && id },
     header && h(SectionText, { element: header, wanted: 'header', origin, id }),
     rows.length > 0 && h('div', { role: 'list', class: 'rows' }, rows.map((cell, index) =>
-      h(Cell, { key: cell.number, cell, context, origin, last: index === rows.length - 1 }))),
+      h(Cell, { key: cell.number, cell, context, origin, last: !remembered && index === rows.length - 1 }))),
     footer && h(SectionText, { element: footer, wanted: 'footer', origin }));
 };
