@@ -3,6 +3,7 @@ import { h, Component } from '/vendor/preact/preact.js';
 
 import { Inspector } from '/inspector/inspector.js';
 import { Offline } from '/offline.js';
+import { Fitted } from '/phone/fitted.js';
 import { Phone } from '/phone/phone.js';
 
 export class App extends Component {
@@ -16,7 +17,7 @@ export class App extends Component {
       h('main', { class: 'columns' },
         h('section', { class: 'phone-column', 'aria-label': 'Phone' },
           h('h1', { class: 'visually-hidden' }, 'Settings for Linux'),
-          store.screen && h(Phone, { store, screen: store.screen, device: store.device })),
+          store.screen && h(Fitted, null, h(Phone, { store, screen: store.screen, device: store.device }))),
         h(Inspector, { store })));
   }
 }
