@@ -41,6 +41,23 @@ test('segments, text fields and choices of another bundle work', async () => {
   await person.pressBar('Jukebox');
 });
 
+test('a text of several lines is written, and stored when the editing ends', async () => {
+  await person.title('Jukebox');
+  await person.tap('Account');
+  await person.title('Account');
+  await person.front.locator('.table').evaluate((table) => { table.scrollTop = table.scrollHeight; });
+  const text = person.front.locator('textarea');
+  await text.click();
+  await person.page.keyboard.press('End');
+  await person.page.keyboard.type(' and');
+  await person.page.keyboard.press('Enter');
+  await person.page.keyboard.type('a third');
+  await person.settled();
+  assert.match(await text.inputValue(), /^Two lines.* and\na third/s);
+  await person.pressBar('Jukebox');
+  await person.file('org.example.jukebox.account.plist', 'notes', 'a third');
+});
+
 test('a bundle that cannot be loaded says so', async () => {
   await person.title('Jukebox');
   await person.pressBar('Settings');

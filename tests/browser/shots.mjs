@@ -11,30 +11,55 @@ import { chromium } from 'playwright-core';
 const [simulator, output, ...languages] = process.argv.slice(2);
 const SCREEN_HEIGHT = 568, BARS = 64, PIXELS_PER_POINT = 2;
 
-// What a person does to see each page, from the root page: rows by identifier, or by section and row.
+// What a person does to see each page, from the root page on: taps rows, by identifier or by section and row, then what
+// `then` says. A page that is longer than the screen is also shown at its end where `whole` says so.
 const TOUR = [
-  { name: 'keypad', taps: ['Keypad'] },
+  { name: 'keypad', taps: ['Keypad'], whole: true },
   { name: 'key-tones', taps: ['Keypad', 'KeypadTones'] },
-  { name: 'recents', taps: ['Recents'] },
-  { name: 'filters', taps: ['Filters'] },
+  { name: 'recents', taps: ['Recents'], whole: true },
+  { name: 'recents-action', taps: ['Recents', 'RecentsTapAction'] },
+  { name: 'filters', taps: ['Filters'], whole: true },
   { name: 'filter', taps: ['Filters', 'FilterMode'] },
+  { name: 'filtered', taps: ['Filters', 'FilterAction'] },
   { name: 'area-database', taps: ['AreaDatabase'] },
   { name: 'code-table', taps: ['T9Database'] },
   { name: 'area-list', taps: ['AreaList'] },
-  { name: 'area-editor', taps: ['AreaList', [0, 0]], modal: true },
+  { name: 'area-list-editing', taps: ['AreaList'], then: async (hand) => {
+    await hand.tapRole('right');
+    await hand.tapRole('minus');
+  } },
+  { name: 'area-list-swiped', taps: ['AreaList'], then: (hand) => hand.swipeRow([1, 1]) },
+  { name: 'area-new', taps: ['AreaList', [0, 0]] },
+  { name: 'area-editor', taps: ['AreaList', [1, 0]] },
   { name: 'code-list', taps: ['T9List'] },
-  { name: 'code-editor', taps: ['T9List', [1, 0]], modal: true },
+  { name: 'code-new', taps: ['T9List', [0, 0]] },
+  { name: 'code-editor', taps: ['T9List', [1, 0]] },
   { name: 'blacklist', taps: ['Blacklist'] },
-  { name: 'blacklist-editing', taps: ['Blacklist'], button: 'right' },
-  { name: 'number-editor', taps: ['Blacklist', [0, 0]], modal: true },
-  { name: 'contacts', taps: ['Blacklist', [0, 1]], modal: true },
-  { name: 'call-history', taps: ['Blacklist', [0, 2]], modal: true },
-  { name: 'history-limit', taps: ['CallHistoryLimit'] },
-  { name: 'question', taps: ['CallHistoryLimit', [0, 1]], alert: 'cancel' },
+  { name: 'number-new', taps: ['Blacklist', [0, 0]] },
+  { name: 'contacts', taps: ['Blacklist', [0, 1], [0, 0], [0, 3], [0, 4]] },
+  { name: 'call-history', taps: ['Blacklist', [0, 2], [0, 1], [0, 2]] },
+  { name: 'blacklist-filled', taps: ['Blacklist'] },
+  { name: 'blacklist-editing', taps: ['Blacklist'], then: (hand) => hand.tapRole('right') },
+  { name: 'number-editor', taps: ['Blacklist', [1, 0]], then: (hand) => hand.tapPart('TextField', -1) },
+  { name: 'counts', taps: ['Blacklist'], then: (hand) => hand.home() },
+  { name: 'history-limit', taps: ['CallHistoryLimit'], whole: true },
+  { name: 'question', taps: ['CallHistoryLimit', [0, 1]] },
+  { name: 'success', taps: ['CallHistoryLimit', [0, 1]], then: (hand) => hand.tapRole('default') },
   { name: 'call-time', taps: ['CallTime'] },
-  { name: 'call-time-editor', taps: ['CallTime', [0, 0]], modal: true },
+  { name: 'call-time-editor', taps: ['CallTime', [0, 0]] },
+  { name: 'people', taps: ['MyInfo'], whole: true },
+  { name: 'people-search', taps: ['MyInfo'], then: async (hand) => {
+    await hand.tapPart('SearchField', 0);
+    await hand.perform({ kind: 'type', text: 'ma' });
+  } },
+  { name: 'people-not-found', taps: ['MyInfo'], then: async (hand) => {
+    await hand.tapPart('SearchField', 0);
+    await hand.perform({ kind: 'type', text: 'xyzzy' });
+  } },
   { name: 'duration', taps: ['ConnectedVibrateTotalDuration'] },
-  { name: 'tools', taps: [], button: 'right', alert: 'cancel' },
+  { name: 'vibration', taps: ['ConnectedVibrateOnDuration'] },
+  { name: 'pause', taps: ['ConnectedVibrateOffDuration'] },
+  { name: 'tools', taps: [], then: (hand) => hand.tapRole('right') },
 ];
 
 /** Starts a phone with this language; answers its address when it is ready. */
@@ -49,6 +74,9 @@ const startPhone = (device, language) => new Promise((done, fail) => {
 
 const all = (element, accept) =>
   [...(accept(element) ? [element] : []), ...(element.children ?? []).flatMap((child) => all(child, accept))];
+
+const isPopup = ({ type }) => type === 'Alert' || type === 'Sheet';
+const hasRole = (...roles) => (element) => element.type === 'Button' && roles.includes(element.attributes?.role);
 
 /** The hand on the phone, through the interface that the page itself uses. */
 class Hand {
@@ -67,28 +95,61 @@ class Hand {
 
   async table() { return all(await this.screen(), (element) => element.type === 'Table').at(-1); }
 
-  async tapElement({ number, part = '' }) { await this.perform({ kind: 'tap', number, part }); }
+  tapElement({ number, part = '' }) { return this.perform({ kind: 'tap', number, part }); }
 
-  /** Taps the row, after scrolling to it where it is not on the screen. */
-  async tapRow(row) {
+  scroll({ number }, amount) { return this.perform({ kind: 'scroll', number, amount }); }
+
+  /** The row, after scrolling to it where it is not on the screen. */
+  async row(row) {
     const wanted = (cell) => cell.type === 'Cell' && (Array.isArray(row)
       ? cell.attributes.section === row[0] && cell.attributes.row === row[1] : cell.identifier === row);
     for (let offset = -BARS; ; offset += SCREEN_HEIGHT / 2) {
       const table = await this.table();
       const cell = all(table, wanted)[0];
-      if (cell) return this.tapElement(cell);
+      if (cell) return cell;
       if (offset > table.attributes.contentHeight) throw new Error(`no row ${row}`);
-      await this.perform({ kind: 'scroll', number: table.number, amount: offset });
+      await this.scroll(table, offset);
     }
   }
 
-  async tapRole(role) {
-    const buttons = all(await this.screen(),
-      (element) => element.type === 'Button' && element.attributes?.role === role);
-    await this.tapElement(buttons.at(-1));
+  async tapRow(row) { await this.tapElement(await this.row(row)); }
+
+  async swipeRow(row) { await this.perform({ kind: 'swipe', number: (await this.row(row)).number }); }
+
+  async tapPart(type, place) {
+    await this.tapElement(all(await this.screen(), (element) => element.type === type).at(place));
   }
 
-  async back() { await this.perform({ kind: 'back' }); }
+  /** The last of those with the role, which is the one in front; of rows the first. */
+  async tapRole(role) {
+    const buttons = all(await this.screen(), hasRole(role));
+    await this.tapElement(role === 'minus' ? buttons[0] : buttons.at(-1));
+  }
+
+  async atHome() {
+    const { attributes: { page } } = await this.screen();
+    this.root ??= page;
+    return page === this.root;
+  }
+
+  /** Cancels what is open and goes back until the root page is in front. */
+  async home() {
+    for (;;) {
+      const screen = await this.screen();
+      const popup = all(screen, isPopup)[0];
+      if (popup)
+        await this.tapElement(all(popup, hasRole('cancel'))[0]);
+      else if (await this.atHome())
+        return;
+      else
+        await this.leavePage(all(screen, ({ type }) => type === 'NavigationBar').at(-1));
+    }
+  }
+
+  async leavePage(bar) {
+    const [way] = ['back', 'left', 'right'].flatMap((role) => all(bar, hasRole(role)));
+    await (way.attributes.role === 'back' ? this.perform({ kind: 'back' }) : this.tapElement(way));
+  }
 }
 
 /** One language: the root page from top to end, then each stop of the tour. */
@@ -100,36 +161,31 @@ class Photographer {
   }
 
   async shoot(name) {
-    await this.page.waitForTimeout(700); // until pages and sheets have come to rest
+    await this.page.waitForTimeout(250); // until the page has heard of it and its pictures are there
     await this.page.locator('.screen').screenshot({ path: join(output, `${name}--${this.language}.png`) });
   }
 
   async shootRootPage() {
+    await this.hand.atHome();
     const table = await this.hand.table();
     const step = SCREEN_HEIGHT - BARS;
     for (let part = 0; part * step < table.attributes.contentHeight; part++) {
-      await this.hand.perform({ kind: 'scroll', number: table.number, amount: part * step - BARS });
+      await this.hand.scroll(table, part * step - BARS);
       await this.shoot(`root-${part + 1}`);
     }
   }
 
-  async visit({ name, taps, button, modal, alert }) {
+  async visit({ name, taps, then, whole }) {
     for (const row of taps) await this.hand.tapRow(row);
-    if (button) await this.hand.tapRole(button);
+    await then?.(this.hand);
     await this.shoot(name);
-    await this.leave({ depth: taps.length, modal, alert });
-  }
-
-  async leave({ depth, modal, alert }) {
-    if (alert) await this.hand.tapRole(alert);
-    if (modal) await this.hand.tapRole(await this.closesFromTheLeft() ? 'left' : 'right');
-    const pages = modal || (alert && depth > 0) ? depth - 1 : depth;
-    for (let page = 0; page < pages; page++) await this.hand.back();
-  }
-
-  async closesFromTheLeft() {
-    const bar = all(await this.hand.screen(), (element) => element.type === 'NavigationBar').at(-1);
-    return all(bar, (element) => element.attributes?.role === 'left').length > 0;
+    const table = await this.hand.table();
+    const hidden = table.attributes.contentHeight - SCREEN_HEIGHT;
+    if (whole && hidden > -BARS) {
+      await this.hand.scroll(table, hidden);
+      await this.shoot(`${name}-end`);
+    }
+    await this.hand.home();
   }
 }
 
@@ -142,7 +198,8 @@ async function photograph(browser, language) {
     });
     await page.goto(address);
     await page.locator('.screen').waitFor();
-    await page.mouse.click(5, 5); // as with a mouse: no marks of the keyboard's focus in the pictures
+    // As with a mouse, and with the focus elsewhere: the pictures show no marks of the keyboard's focus.
+    await page.locator('.card-database .tab').first().click();
     const photographer = new Photographer(page, language);
     await photographer.shootRootPage();
     for (const stop of TOUR) await photographer.visit(stop);

@@ -10,7 +10,12 @@ export class Person {
     const person = new Person();
     person.browser = await chromium.launch({ executablePath: process.env.ZV_CHROMIUM ?? '/usr/bin/chromium', args: flags });
     person.simulator = simulator;
-    await person.openPage({ reducedMotion, ...options });
+    try {
+      await person.openPage({ reducedMotion, ...options });
+    } catch (error) {
+      await person.browser.close();
+      throw error;
+    }
     return person;
   }
 
@@ -28,9 +33,9 @@ export class Person {
   }
 
   async leave() {
+    await this.browser.close();
     assert.deepEqual(this.faults, [], 'the page has no faults');
     assert.deepEqual(this.strangers, [], 'the page asks nobody but the simulator');
-    await this.browser.close();
   }
 
   get screen() {
@@ -64,7 +69,7 @@ export class Person {
   // All gestures of the page have been carried out and shown.
   async settled() {
     await this.page.evaluate(() => new Promise((done) => { requestAnimationFrame(() => setTimeout(done, 0)); }));
-    await this.page.locator('html:not([data-busy])').waitFor();
+    await this.page.locator('html:not([data-busy]):not([data-scrolling])').waitFor();
   }
 
   async tap(text) {
@@ -107,6 +112,15 @@ export class Person {
     await this.page.mouse.down();
     await this.page.mouse.move(box.x + box.width - 150, y, { steps: 8 });
     await this.page.mouse.up();
+  }
+
+  // Texts of the phone that do not fit their place, those in rows behind the screen's edges left out.
+  clippedTexts() {
+    return this.front.evaluate((page) => [...page.querySelectorAll(
+      '.bar-title, .bar-button, .bar-button span, .cell-text, .cell-detail, .segment, .section-header, .section-footer')]
+      .filter((text) => !text.closest('.remembered') &&
+        (text.scrollWidth > text.clientWidth + 1 || (text.clientHeight && text.scrollHeight > text.clientHeight + 3)))
+      .map((text) => text.innerText));
   }
 
   card(title) {

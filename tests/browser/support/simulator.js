@@ -29,14 +29,24 @@ export class Simulator {
     this.child = spawn(program, ['--device', this.device, '--no-open', ...options],
       { stdio: ['ignore', 'pipe', 'inherit'], env: { ...process.env, HOME: this.folder } });
     const line = await firstLine(this.child);
+    this.letGo();
     this.address = line.match(/http:\S+/)[0];
     this.origin = new URL(this.address).origin;
     this.token = new URL(this.address).searchParams.get('token');
   }
 
+  // A test file that fails before it has stopped its simulator ends all the same, and the simulator with it.
+  letGo() {
+    const { child } = this;
+    child.unref();
+    child.stdout.unref();
+    process.once('exit', () => child.kill());
+  }
+
   async end() {
     if (this.child.exitCode !== null || this.child.signalCode !== null)
       return;
+    this.child.ref();
     const ended = new Promise((done) => this.child.once('exit', done));
     this.child.kill();
     await ended;
