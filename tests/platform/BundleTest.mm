@@ -74,6 +74,12 @@ TEST_F(Bundle, NoKeyGivesTheValueOrNothing) {
     EXPECT_EQ(localized(nil, nil), "");
 }
 
+TEST_F(Bundle, WhatIsNoTextComesBackAsItIs) {
+    writeTable("\"a\" = \"b\";");
+    id number = @7;
+    EXPECT_EQ([bundle() localizedStringForKey:number value:number table:nil], number);
+}
+
 TEST_F(Bundle, NoTableNameMeansLocalizable) {
     writeTable("\"a\" = \"b\";");
     writeTable("\"a\" = \"other\";", "zh-Hans.lproj/Page.strings");

@@ -55,6 +55,14 @@ TEST_F(GermanPages, TitlesOfChoicesAreTranslated) {
     EXPECT_EQ([[specifier titleDictionary] count], 2U);
 }
 
+TEST_F(GermanPages, TitlesThatAreNoTextsAreKept) {
+    PSSpecifier *specifier = named(@"Choice");
+    [specifier setValues:@[ @1, @2 ] titles:@[ @200, @"None" ]];
+    [newPage() localizedSpecifiersForSpecifiers:@[ specifier ]];
+    EXPECT_TRUE([[[specifier titleDictionary] objectForKey:@1] isEqual:@200]);
+    EXPECT_EQ(text([[specifier titleDictionary] objectForKey:@2]), "Keine");
+}
+
 TEST_F(GermanPages, MarkedTitlesOfChoicesAreKeptThoughTheNameIsTranslated) {
     PSSpecifier *specifier = named(@"Cancel");
     [specifier setProperty:@0 forKey:@"valueLocalized"];

@@ -5,9 +5,6 @@
 
 namespace support {
 
-/// The variable of this name in the loaded bundle.
-void *bundleVariable(const char *mangledName);
-
 /// The root page's own settings; nil while no root page lives.
 NSMutableDictionary *&sharedSettings();
 

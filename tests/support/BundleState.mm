@@ -5,6 +5,9 @@
 
 namespace support {
 
+namespace {
+
+/// The variable of this name in the loaded bundle.
 void *bundleVariable(const char *mangledName) {
     void *bundle = dlopen(ZV_BUNDLE_PATH "/Zelvora", RTLD_LAZY | RTLD_NOLOAD);
     void *variable = bundle ? dlsym(bundle, mangledName) : nullptr;
@@ -13,6 +16,8 @@ void *bundleVariable(const char *mangledName) {
     dlclose(bundle);
     return variable;
 }
+
+} // namespace
 
 NSMutableDictionary *&sharedSettings() {
     return *static_cast<NSMutableDictionary **>(bundleVariable("_ZN2zv15_sharedSettingsE"));

@@ -47,7 +47,8 @@ NSDictionary *tableOf(NSBundle *bundle, NSString *table) {
     id found = [tableOf(self, [table length] > 0 ? table : @"Localizable") objectForKey:key];
     if ([found isKindOfClass:[NSString class]])
         return found;
-    return [value length] > 0 ? value : key;
+    // A page resource may hold numbers where texts belong; they come back as they are.
+    return value && ![value isEqual:@""] ? value : key;
 }
 
 @end
