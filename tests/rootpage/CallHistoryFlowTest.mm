@@ -6,6 +6,8 @@
 #include "support/CallHistoryBuilder.h"
 #include "support/LockHolder.h"
 
+#include <unistd.h>
+
 using host::EventKind;
 using support::propertyList;
 using testing::ElementsAre;
@@ -97,6 +99,16 @@ TEST_F(HistoryLimit, ConfirmingARaiseExtendsTheHistory) {
     EXPECT_TRUE(device.exists(recents));
     person.back();
     EXPECT_EQ(person.valueOf("History Limit"), "2,000 Calls");
+}
+
+// Who reads them at this moment sees the old file or the new one, never a half.
+TEST_F(HistoryLimit, RaisingItReplacesTheRecentsWhole) {
+    open();
+    const std::string before = device.read(recents);
+    ASSERT_EQ(link(device.path(recents).c_str(), device.path("/tmp/reader").c_str()), 0);
+    raise("2,000");
+    EXPECT_EQ(device.read("/tmp/reader"), before);
+    EXPECT_NE(device.read(recents), before);
 }
 
 TEST_F(HistoryLimit, RaisingItAgainReplacesTheStoredLimitAndSucceeds) {

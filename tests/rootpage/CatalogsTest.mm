@@ -6,6 +6,7 @@
 #include "support/OrdinaryUser.h"
 
 #include <sys/stat.h>
+#include <unistd.h>
 
 using support::propertyList;
 using support::text;
@@ -190,6 +191,16 @@ TEST_F(Catalogs, TheOtherEntriesOfABinaryKeypadFileAreKeptToo) {
     ASSERT_TRUE([document writeToFile:text(device.path(keypad)) atomically:YES]);
     [page setT9Database:@"Pinyin.txt" forSpecifier:nil];
     expectFlaggedBeside(others);
+}
+
+// Who reads it at this moment sees the old file or the new one, never a half.
+TEST_F(Catalogs, TheKeypadFileIsReplacedWhole) {
+    device.write(keypad, propertyList({{"Other", "kept"}}));
+    const std::string before = device.read(keypad), reader = device.path("/tmp/reader");
+    ASSERT_EQ(link(device.path(keypad).c_str(), reader.c_str()), 0);
+    [page setT9Database:@"Pinyin.txt" forSpecifier:nil];
+    EXPECT_EQ(device.read("/tmp/reader"), before);
+    EXPECT_NE(device.read(keypad), before);
 }
 
 TEST_F(Catalogs, AKeypadFileThatCannotBeWrittenIsNoConcern) {

@@ -84,6 +84,31 @@ TEST_F(MyInfo, ThePickerAsksForPhoneNumbersAndReportsToThePage) {
     EXPECT_TRUE([[picker displayedProperties] isEqual:@[ [NSNumber numberWithInt:kABPersonPhoneProperty] ]]);
 }
 
+IMP freePicker;
+int freedPickers = 0;
+
+void countFreeing(id picker, SEL selector) {
+    ++freedPickers;
+    reinterpret_cast<void (*)(id, SEL)>(freePicker)(picker, selector);
+}
+
+TEST_F(MyInfo, ThePickerIsFreedWhenItIsDone) {
+    freePicker = host::replaceMethod([ABPeoplePickerNavigationController class], @selector(dealloc),
+                                     IMP(countFreeing));
+    open();
+    @autoreleasepool {
+        person.tap("My Info");
+        EXPECT_NE([rootPage() presentedViewController], nil);
+        person.tapButton("Cancel");
+    }
+    EXPECT_EQ([rootPage() presentedViewController], nil);
+    EXPECT_EQ(freedPickers, 1);
+    @autoreleasepool {
+        pick("Ann Lee");
+    }
+    EXPECT_EQ(freedPickers, 2);
+}
+
 TEST_F(MyInfo, AChosenPersonIsNamedFirstNameFirst) {
     open();
     EXPECT_THAT(pick("Ann Lee"), ElementsAre(Pair("MyInfoName", "Ann Lee"), Pair("MyInfo", "number 1")));

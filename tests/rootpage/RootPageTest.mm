@@ -2,6 +2,8 @@
 #import "rootpage/ZelvoraSettingsController.h"
 #import "support/BundleTest.h"
 
+#include "Foundation/MethodCorrection.h"
+
 using host::EventKind;
 using support::Entries;
 using support::propertyList;
@@ -39,6 +41,8 @@ TEST_F(RootPages, RespringRestartsTheHomeScreen) {
     EXPECT_EQ(person.question().type, "Sheet");
     EXPECT_EQ(person.question().label, "");
     EXPECT_THAT(person.buttons(), ElementsAre("Respring", "Cancel"));
+    const host::Element sheet = person.question();
+    EXPECT_EQ(sheet.all("Button").front()->text("role"), "destructive");
     person.answer("Respring");
     EXPECT_THAT(commands(), ElementsAre("killall SpringBoard"));
 }
@@ -94,6 +98,20 @@ TEST_F(RootPages, TheToolsButtonShowsTheInstalledImage) {
     EXPECT_EQ(text(NSStringFromSelector([tools action])), "toolsButtonPressed:");
 }
 
+std::string superclassSaw;
+
+void watchAppearance(id page, SEL, BOOL) {
+    superclassSaw += [[page navigationItem] rightBarButtonItem] ? "a button " : "no button ";
+}
+
+TEST_F(RootPages, TheSuperclassHasItsTurnBeforeTheToolsButtonIsMade) {
+    ZelvoraSettingsController *page = [[[classNamed("ZelvoraSettingsController") alloc] init] autorelease];
+    host::replaceMethod([PSListController class], @selector(viewWillAppear:), IMP(watchAppearance));
+    [page viewWillAppear:NO];
+    [page viewWillAppear:NO];
+    EXPECT_EQ(superclassSaw, "no button a button ");
+}
+
 TEST_F(RootPages, AButtonThatIsAlreadyThereIsLeftAlone) {
     load();
     ZelvoraSettingsController *page = [[[classNamed("ZelvoraSettingsController") alloc] init] autorelease];
@@ -127,6 +145,12 @@ TEST_F(RootPages, AListShowsHowManyEntriesItHas) {
     device.write(blacklist, propertyList(entries(3)));
     open();
     EXPECT_EQ(person.valueOf("Blacklist"), "3");
+}
+
+TEST_F(RootPages, ALongListShowsAllItsDigits) {
+    device.write(blacklist, propertyList(entries(12345)));
+    open();
+    EXPECT_EQ(person.valueOf("Blacklist"), "12345");
 }
 
 TEST_F(RootPages, AListWithoutADocumentShowsNoCount) {

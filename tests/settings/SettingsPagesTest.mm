@@ -5,6 +5,7 @@
 #import "support/BundleTest.h"
 
 #include "Foundation/MethodCorrection.h"
+#include "support/BundleState.h"
 
 using support::text;
 using testing::ElementsAre;
@@ -199,6 +200,27 @@ TEST_F(PageReloads, APageReloadsOnceItHasAppearedAndNotBefore) {
     EXPECT_EQ(reloads, 1);
     [page viewDidAppear:NO];
     EXPECT_EQ(reloads, 1);
+}
+
+std::vector<std::string> superclassSaw; // what was done already when the superclass had its turn
+
+void watchDisappearance(id, SEL, BOOL) {
+    superclassSaw.push_back(support::settingsMirror() ? "disappearing: loaded" : "disappearing: not loaded");
+}
+
+void watchAppearance(id, SEL, BOOL) {
+    superclassSaw.push_back("appeared: " + std::to_string(reloads) + " reloads");
+}
+
+TEST_F(PageReloads, TheSuperclassHasItsTurnFirst) {
+    ZVSettingsViewController *page = [[[classNamed("ZVSettingsViewController") alloc] init] autorelease];
+    host::replaceMethod([UIViewController class], @selector(viewWillDisappear:), IMP(watchDisappearance));
+    host::replaceMethod([UIViewController class], @selector(viewDidAppear:), IMP(watchAppearance));
+    [page viewWillDisappear:NO];
+    [page viewDidAppear:NO];
+    [page viewDidAppear:NO];
+    EXPECT_THAT(superclassSaw,
+                ElementsAre("disappearing: not loaded", "appeared: 0 reloads", "appeared: 1 reloads"));
 }
 
 TEST_F(PageReloads, ASheetReloadsNothing) {

@@ -3,6 +3,7 @@
 #import "settings/ZVSettingsViewController.h"
 #import "support/BundleTest.h"
 
+#include "Foundation/MethodCorrection.h"
 #include "support/BundleState.h"
 
 #include <climits>
@@ -161,6 +162,24 @@ TEST_F(SettingsStore, SettingNilRemovesTheEntry) {
     [page setPreferenceValue:nil specifier:control(@"Key", @"default")];
     EXPECT_EQ(text([page readPreferenceValue:control(@"Key", @"default")]), "default");
     EXPECT_EQ([support::settingsMirror() objectForKey:@"Key"], nil);
+}
+
+IMP store;
+std::string mirroredWhenStored;
+
+void watchStoring(id page, SEL selector, id value, PSSpecifier *specifier) {
+    mirroredWhenStored = text([[support::settingsMirror() objectForKey:@"Key"] description]);
+    reinterpret_cast<void (*)(id, SEL, id, id)>(store)(page, selector, value, specifier);
+}
+
+TEST_F(SettingsStore, AValueIsInTheFileBeforeItIsInTheMirror) {
+    device.write(preferences, propertyList({{"Key", "old"}}));
+    loadMirror();
+    store = host::replaceMethod([PSViewController class], @selector(setPreferenceValue:specifier:),
+                                IMP(watchStoring));
+    [newPage() setPreferenceValue:@"new" specifier:control(@"Key", nil)];
+    EXPECT_EQ(mirroredWhenStored, "old");
+    EXPECT_EQ(valueInFile("Key"), "new");
 }
 
 TEST_F(SettingsStore, AStoredNoIsReadThoughTheDefaultIsYes) {
