@@ -23,7 +23,7 @@ run() {
         -artifact_prefix="build/fuzz/crashes/$1-" "build/fuzz/inputs/$1" "fuzz/corpus/$1"
 }
 
-build fuzz
+build fuzz fuzz/all
 case "${1:-}" in
     keep) "build/fuzz/fuzz/fuzz_$2" -merge=1 "fuzz/corpus/$2" "build/fuzz/inputs/$2" ;;
     '' | [0-9]*) for name in $(names); do run "$name" "${1:-60}"; done ;;
