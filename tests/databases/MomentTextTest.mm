@@ -79,6 +79,22 @@ TEST_F(MomentText, OfMomentsBefore2001IsTheirOwn) {
     EXPECT_STREQ([dates.text(-978307200) UTF8String], "1970-01-01");
 }
 
+TEST_F(MomentText, IsGivenBackWithItsFormatterInTheEnd) {
+    NSString *first = nil, *last = nil;
+    @autoreleasepool {
+        use(@"UTC", @"yyyy-MM-dd HH:mm");
+        [m_formatter retain];
+        zv::MomentText dates(m_formatter, day);
+        first = [dates.text(midnight) retain];
+        last = [dates.text(midnight - day) retain];
+    }
+    for (id given in @[ m_formatter, first, last ])
+        EXPECT_EQ([given retainCount], 2U) << "held by this list and this test";
+    [m_formatter release];
+    [first release];
+    [last release];
+}
+
 TEST_F(MomentText, LivesUntilTheNextOne) {
     use(@"UTC", @"yyyy-MM-dd");
     zv::MomentText dates(m_formatter, day);

@@ -83,6 +83,8 @@ TEST_F(PickerRecord, HoldsEachMemberOnceUntilItIsReplacedOrGone) {
         [record setObject:@"x" forKey:@"name"];
         [record removeObjectForKey:@"type"];
         EXPECT_EQ([member retainCount], 3U);
+        [record setObject:member forKey:@"name"];
+        [record setObject:member forKey:@"type"];
     }
     EXPECT_EQ([member retainCount], 1U);
 }
