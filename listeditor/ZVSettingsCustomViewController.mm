@@ -217,16 +217,16 @@ void presentEditor(ZVSettingsCustomViewController *page, NSDictionary *editInfo,
 }
 
 - (void)settingsSelectContactsViewControllerAdd:(NSDictionary *)record {
-    NSString *number = [record objectForKey:zv::key::number];
+    NSString *number = zv::recordText(record, zv::key::number);
     if (!number)
         return;
-    NSString *name = [record objectForKey:zv::key::name];
+    NSString *name = zv::recordText(record, zv::key::name);
     const zv::ListDocument document(_saveplist, _defaultplist);
     [self reloadPlistDictionary:document.put(number, name ? name : @"")];
 }
 
 - (void)settingsSelectContactsViewControllerRemove:(NSDictionary *)record {
-    NSString *number = [record objectForKey:zv::key::number];
+    NSString *number = zv::recordText(record, zv::key::number);
     if (!number)
         return;
     const zv::ListDocument document(_saveplist, _defaultplist);
@@ -242,7 +242,7 @@ void presentEditor(ZVSettingsCustomViewController *page, NSDictionary *editInfo,
 // A new entry goes to the top and an edited one stays in its place until the list is built anew, so that a
 // person sees where it went.
 - (void)settingsEditNumberViewControllerSaved:(ZVSettingsEditNumberViewController *)editor {
-    NSString *number = [[editor texts] objectForKey:zv::key::number];
+    NSString *number = zv::recordText([editor texts], zv::key::number);
     if ([number length] == 0)
         return;
     if (kindOf(_customId) == ListKind::callTime) {
@@ -251,7 +251,7 @@ void presentEditor(ZVSettingsCustomViewController *page, NSDictionary *editInfo,
                           withRowAnimation:UITableViewRowAnimationAutomatic];
         return;
     }
-    NSString *name = [[editor texts] objectForKey:zv::key::name];
+    NSString *name = zv::recordText([editor texts], zv::key::name);
     number = zv::cutEntryText(number);
     name = name ? zv::cutEntryText(name) : @"";
     NSDictionary *row = [zv::newRowRecord(number, name) autorelease];

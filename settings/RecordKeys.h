@@ -21,6 +21,12 @@ inline NSDictionary *recordAt(NSArray *records, NSInteger row) {
     return index < [records count] ? [records objectAtIndex:index] : nil;
 }
 
+/// The text that a record has under a key; nil where it has none, or something else.
+inline NSString *recordText(NSDictionary *record, NSString *key) {
+    id value = [record objectForKey:key];
+    return [value isKindOfClass:[NSString class]] ? value : nil;
+}
+
 /// The specifier property that holds the id of the list that a row opens.
 constexpr NSString *const listIdProperty = @"_custom";
 

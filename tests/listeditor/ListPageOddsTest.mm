@@ -34,7 +34,7 @@ protected:
     }
 
     /// An editor on which Save was pressed with this number.
-    static ZVSettingsEditNumberViewController *savedEditor(NSDictionary *info, NSString *number) {
+    static ZVSettingsEditNumberViewController *savedEditor(NSDictionary *info, id number) {
         ZVSettingsEditNumberViewController *editor =
             [[[classNamed("ZVSettingsEditNumberViewController") alloc] initWithEditInfos:info] autorelease];
         [editor saveButtonPressed:nil];
@@ -124,6 +124,18 @@ TEST_F(ListPageOdds, AnEntryThatIsGoneWhenItsEditorSavesIsStoredAllTheSame) {
     EXPECT_THAT(document(), ElementsAre(Pair("2", "")));
     EXPECT_EQ([page tableView:nil numberOfRowsInSection:entries], 0);
     EXPECT_THAT(notifications(), ElementsAre("ZVBlacklistChanged"));
+}
+
+TEST_F(ListPageOdds, ANumberThatIsNoTextIsNoNumber) {
+    ZVSettingsCustomViewController *page = newPage(@"black");
+    for (id number in @[ @5, [NSNull null], @[], @{} ]) {
+        [page settingsSelectContactsViewControllerAdd:@{@"number" : number}];
+        [page settingsSelectContactsViewControllerRemove:@{@"number" : number}];
+        [page settingsEditNumberViewControllerSaved:savedEditor(@{@"New" : [NSNull null]}, number)];
+    }
+    EXPECT_THAT(notifications(), IsEmpty());
+    [page settingsSelectContactsViewControllerAdd:@{@"number" : @"2", @"name" : [NSNull null]}];
+    EXPECT_THAT(document(), ElementsAre(Pair("1", "One"), Pair("2", "")));
 }
 
 TEST_F(ListPageOdds, NothingComesOfNothing) {
