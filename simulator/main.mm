@@ -99,7 +99,10 @@ int run(sim::Options options) {
     sim::addRoutes(server, session);
     showFirstPage(options);
     if (!server.start()) {
-        fprintf(stderr, "zelvora-simulator: port %d of 127.0.0.1 is taken\n", options.port);
+        fprintf(stderr,
+                "zelvora-simulator: port %d of 127.0.0.1 is taken or not allowed; another one can be given "
+                "with --port\n",
+                options.port);
         return 1;
     }
     printf("Settings for Linux: %s\n", server.address().c_str());

@@ -28,7 +28,9 @@ std::vector<fs::path> childrenEndingIn(const fs::path &folder, const std::string
 
 std::vector<fs::path> bundleFolders(const Options &options) {
     const fs::path given = options.bundles.empty() ? ZV_BUNDLE_PATH : options.bundles;
-    if (given.extension() == ".bundle" || fs::exists(given / "Info.plist"))
+    std::error_code failed;
+    const bool isBundle = given.extension() == ".bundle" || fs::exists(given / "Info.plist", failed);
+    if (isBundle && fs::is_directory(given, failed))
         return {given};
     return childrenEndingIn(given, ".bundle");
 }

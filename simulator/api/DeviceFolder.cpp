@@ -102,8 +102,13 @@ void prepare(const Options &options) {
 } // namespace
 
 std::string prepareDeviceFolder(const Options &options) {
+    if (bundleFolders(options).empty())
+        return "there is no settings bundle in " + options.bundles;
     try {
         prepare(options);
+    } catch (const fs::filesystem_error &error) {
+        const std::string place = error.path1().empty() ? options.device : error.path1().string();
+        return "the device folder cannot be used: " + place + ": " + error.code().message();
     } catch (const std::exception &error) {
         return error.what();
     }

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <charconv>
-#include <functional>
 #include <map>
 
 namespace sim {
@@ -32,23 +31,42 @@ bool keep(const std::string &text, bool valid, std::string &into) {
     return valid;
 }
 
-using Reader = std::function<bool(Options &, const std::string &)>;
+/// An option that takes a value.
+struct Reader {
+    const char *wanted; ///< what its value must be
+    /// Takes the value over and says whether it can be one.
+    bool (*read)(Options &, const std::string &);
+};
 
-/// The options that take a value; a reader says whether the value can be one.
 const std::map<std::string, Reader> &readers() {
     static const std::map<std::string, Reader> all = {
-        {"--device", [](Options &o, const std::string &v) { return keep(v, !v.empty(), o.device); }},
-        {"--bundle", [](Options &o, const std::string &v) { return keep(v, !v.empty(), o.bundles); }},
+        {"--device",
+         {"the name of a folder",
+          [](Options &o, const std::string &v) { return keep(v, !v.empty(), o.device); }}},
+        {"--bundle",
+         {"the name of a folder",
+          [](Options &o, const std::string &v) { return keep(v, !v.empty(), o.bundles); }}},
         {"--ios",
-         [](Options &o, const std::string &v) { return keep(v, isSystemVersion(v), o.systemVersion); }},
-        {"--language", [](Options &o, const std::string &v) { return keep(v, isLanguage(v), o.language); }},
-        {"--region", [](Options &o, const std::string &v) { return keep(v, isRegion(v), o.region); }},
+         {"a system version such as 7.1.2",
+          [](Options &o, const std::string &v) { return keep(v, isSystemVersion(v), o.systemVersion); }}},
+        {"--language",
+         {"a language such as zh-Hans",
+          [](Options &o, const std::string &v) { return keep(v, isLanguage(v), o.language); }}},
+        {"--region",
+         {"two capital letters such as CN",
+          [](Options &o, const std::string &v) { return keep(v, isRegion(v), o.region); }}},
         {"--screen",
-         [](Options &o, const std::string &v) { return keep(v, screenSize(v).width > 0, o.screen); }},
-        {"--port", [](Options &o, const std::string &v) { return readNumber(v, 0, 65535, o.port); }},
+         {"320x480, 320x568, 375x667 or 414x736",
+          [](Options &o, const std::string &v) { return keep(v, screenSize(v).width > 0, o.screen); }}},
+        {"--port",
+         {"a number up to 65535",
+          [](Options &o, const std::string &v) { return readNumber(v, 0, 65535, o.port); }}},
         {"--contacts",
-         [](Options &o, const std::string &v) { return readNumber(v, 0, 100'000, o.contacts); }},
-        {"--calls", [](Options &o, const std::string &v) { return readNumber(v, 0, 100'000, o.calls); }},
+         {"a number up to 100000",
+          [](Options &o, const std::string &v) { return readNumber(v, 0, 100'000, o.contacts); }}},
+        {"--calls",
+         {"a number up to 100000",
+          [](Options &o, const std::string &v) { return readNumber(v, 0, 100'000, o.calls); }}},
     };
     return all;
 }
@@ -87,9 +105,9 @@ CommandLine readCommandLine(const std::vector<std::string> &arguments) {
         if (const auto reader = readers().find(name); reader == readers().end()) {
             read.problem = "unknown option " + name + "; ./zv run --help lists the options";
         } else if (i + 1 == arguments.size()) {
-            read.problem = name + " needs a value";
-        } else if (!reader->second(read.options, arguments[++i])) {
-            read.problem = name + " cannot be " + arguments[i];
+            read.problem = name + " needs a value: " + reader->second.wanted;
+        } else if (!reader->second.read(read.options, arguments[++i])) {
+            read.problem = name + " cannot be \"" + arguments[i] + "\", it is " + reader->second.wanted;
         }
         if (!read.problem.empty())
             break;

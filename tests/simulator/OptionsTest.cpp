@@ -32,8 +32,11 @@ TEST(TheCommandLine, DescribesAnotherPhone) {
 TEST(TheCommandLine, SaysWhatIsWrongWithIt) {
     EXPECT_EQ(readCommandLine({"--nonsense"}).problem,
               "unknown option --nonsense; ./zv run --help lists the options");
-    EXPECT_EQ(readCommandLine({"--ios"}).problem, "--ios needs a value");
-    EXPECT_EQ(readCommandLine({"--port", "99999"}).problem, "--port cannot be 99999");
+    EXPECT_EQ(readCommandLine({"--ios"}).problem, "--ios needs a value: a system version such as 7.1.2");
+    EXPECT_EQ(readCommandLine({"--port", "99999"}).problem,
+              "--port cannot be \"99999\", it is a number up to 65535");
+    for (const std::string &screen : screenNames())
+        EXPECT_NE(readCommandLine({"--screen", "1x1"}).problem.find(screen), std::string::npos) << screen;
     for (const auto &[name, value] : {std::pair{"--ios", "eight"},
                                       {"--ios", "."},
                                       {"--language", "../etc"},
