@@ -9,6 +9,8 @@ const strength = ({ intensity }) => Number(intensity.toPrecision(6));
 
 const total = (pattern) => pattern.reduce((sum, [, milliseconds]) => sum + Math.max(milliseconds, 0), 0);
 
+const enoughForUnit = 15; // percent of the timeline
+
 // navigator.vibrate takes vibrations and pauses in turn, a vibration first.
 const vibrations = (pattern) => pattern.map(([, milliseconds]) => Math.max(milliseconds, 0));
 
@@ -16,8 +18,8 @@ const Phase = ({ on, milliseconds, whole, intensity }) => {
   const width = whole > 0 ? (Math.max(milliseconds, 0) / whole) * 100 : 0;
   return h('li', { class: on ? 'phase-on' : 'phase-off', style: { width: `${width}%` } },
     on && h('i', { style: { height: `${Math.min(Math.max(intensity, 0.04), 1) * 100}%` } }),
-    h('span', null, `${milliseconds}`),
-    h('span', { class: 'visually-hidden' }, on ? ' milliseconds of vibration' : ' milliseconds of pause'));
+    h('span', { 'aria-hidden': 'true' }, width > enoughForUnit ? `${milliseconds} ms` : `${milliseconds}`),
+    h('span', { class: 'visually-hidden' }, `${milliseconds} milliseconds of ${on ? 'vibration' : 'pause'}`));
 };
 
 export class Vibration extends Component {
