@@ -13,7 +13,7 @@ export class App extends Component {
 
   render({ store }) {
     return h('div', { class: 'page' },
-      h(Offline, { connected: store.connected, started: Boolean(store.screen) }),
+      h(Offline, { store }),
       h('main', { class: 'columns' },
         h('section', { class: 'phone-column', 'aria-label': 'Phone' },
           h('h1', { class: 'visually-hidden' }, 'Settings for Linux'),

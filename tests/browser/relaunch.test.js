@@ -41,3 +41,25 @@ test('the page says so when the simulator has gone', async () => {
   await simulator.end();
   await person.page.getByText('The simulator has stopped.').waitFor();
 });
+
+test('the page says so when another simulator has taken its place', async () => {
+  await simulator.launch(['--port', new URL(simulator.origin).port]);
+  await person.page.getByText('Open the address that it has printed.').waitFor();
+});
+
+test('with the new address the page goes on where the phone is', async () => {
+  await person.page.goto(simulator.address);
+  await person.title('Zelvora');
+  await person.page.getByText('Open the address').waitFor({ state: 'detached' });
+});
+
+test('two simulators are shown beside one another', async () => {
+  const other = await Simulator.start('--language', 'de');
+  const page = await person.page.context().newPage();
+  await page.goto(other.address);
+  await page.getByText('Zelvora aktivieren').waitFor();
+  await person.page.reload();
+  await person.sees('Enable Zelvora');
+  await page.close();
+  await other.stopAndRemove();
+});

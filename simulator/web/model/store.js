@@ -8,6 +8,7 @@ const mostEvents = 500;
 export class Store {
   constructor() {
     this.connected = true;
+    this.refused = false; // by a simulator that wants another token
     this.screen = null;
     this.events = [];
     this.pending = { calls: [], ahead: 0 };
@@ -48,7 +49,14 @@ export class Store {
     this.changed();
     // A refused stream is closed for good by the browser; one that broke is tried again by itself.
     if (this.stream.readyState === EventSource.CLOSED)
-      setTimeout(() => this.connect(), 2000);
+      this.askAgain();
+  }
+
+  async askAgain() {
+    const { status } = await get('/api/device');
+    this.refused = status === 403;
+    this.changed();
+    setTimeout(() => this.connect(), 2000);
   }
 
   async takeHello({ life }) {
@@ -56,6 +64,7 @@ export class Store {
       this.forget();
     this.life = life;
     this.connected = true;
+    this.refused = false;
     await Promise.all([this.fetchDevice(), this.fetchEvents(), this.fetchFiles(), this.fetchDatabase()]);
   }
 
