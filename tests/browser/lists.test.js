@@ -109,3 +109,18 @@ test('what is typed fast arrives whole', async () => {
   await person.title('Blacklist');
   await person.file('zelvora.black.plist', '1234567890', 'The quick brown fox');
 });
+
+test('the file that has changed last is open, and a person may open and close any', async () => {
+  await person.pressBar('Zelvora');
+  await person.title('Zelvora');
+  const file = (name) => person.card('Preference and list files').locator('details', { hasText: name });
+  const isOpen = (name) => file(name).evaluate(({ open }) => open);
+  await person.scrollTo('Vibrate on Connect');
+  await person.screen.getByRole('switch', { name: 'Vibrate on Connect' }).click();
+  await file('zelvora.plist').locator('tr').first().waitFor({ state: 'visible' });
+  assert.equal(await isOpen('zelvora.black.plist'), false);
+  await file('zelvora.black.plist').locator('summary').click();
+  assert.equal(await isOpen('zelvora.black.plist'), true);
+  await file('zelvora.plist').locator('summary').press('Enter');
+  assert.equal(await isOpen('zelvora.plist'), false);
+});

@@ -43,6 +43,12 @@ export class Files extends Component {
     return this.state[file.path] ?? file.path === this.props.store.latestFile;
   }
 
+  // Only what a person opens or closes is kept; the browser's own turning would not tell the two apart.
+  turn(event, file) {
+    event.preventDefault();
+    this.setState({ [file.path]: !this.isOpen(file) });
+  }
+
   componentWillReceiveProps({ store }) {
     if (store.latestFile !== this.shown || store.filesSequence !== this.sequence)
       this.setState({ [store.latestFile]: undefined });
@@ -57,9 +63,8 @@ export class Files extends Component {
       files.map((file) => h('details', {
         key: file.path,
         open: this.isOpen(file),
-        onToggle: ({ currentTarget }) => this.setState({ [file.path]: currentTarget.open }),
       },
-        h('summary', null, nameOf(file.path), h('span', { class: 'card-note' },
+        h('summary', { onClick: (event) => this.turn(event, file) }, nameOf(file.path), h('span', { class: 'card-note' },
           file.problem ? 'unreadable' : `${file.count}`)),
         h('div', { class: 'file-contents', tabIndex: 0, role: 'group', 'aria-label': nameOf(file.path) },
           h(Contents, { file })))));
