@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# Builds and runs the fuzzers; new inputs stay in build/fuzz/inputs, crashing ones in build/fuzz/crashes.
+# Builds and runs the fuzzers; new inputs stay in build/fuzz/inputs, crashing ones in build/fuzz/crashes. One worth keeping
+# is copied to fuzz/corpus/NAME, where the tests replay it.
 # usage: ./zv fuzz [NAME] [SECONDS]     one fuzzer or all, each for 60 seconds unless told otherwise
-#        ./zv fuzz keep NAME            adds what that fuzzer found worth keeping to fuzz/corpus
 set -euo pipefail
 source scripts/common.sh
 if [[ ${1:-} == -h || ${1:-} == --help ]]; then
@@ -25,7 +25,6 @@ run() {
 
 build fuzz fuzz/all
 case "${1:-}" in
-    keep) "build/fuzz/fuzz/fuzz_$2" -merge=1 "fuzz/corpus/$2" "build/fuzz/inputs/$2" ;;
     '' | [0-9]*) for name in $(names); do run "$name" "${1:-60}"; done ;;
     *) run "$1" "${2:-60}" ;;
 esac
