@@ -157,5 +157,27 @@ TEST_F(CallHistoryConnection, IsOneForEachOperationAndClosedAfterIt) {
     EXPECT_EQ(connectionsOf([&] { (void)history().uninstall(); }), 1);
 }
 
+class HeldCallHistory : public CallHistoryTest {
+protected:
+    // How often an operation asks for a lock while every one is refused.
+    template<typename Operation>
+    int attemptsOf(Operation operation) {
+        m_disk.failOperation(1, Fault::busy, FaultSpan::fromThenOn);
+        operation();
+        return m_disk.attempts();
+    }
+};
+
+// A busy time-out would ask again and again, and keep the page from answering. SQLite itself may ask
+// twice for a statement.
+TEST_F(HeldCallHistory, IsNotWaitedFor) {
+    makeHistory();
+    EXPECT_LE(attemptsOf([&] { EXPECT_FALSE(history().install(2000)); }), 5 * 2);
+    EXPECT_LE(attemptsOf([&] { EXPECT_FALSE(history().uninstall()); }), 3 * 2);
+    EXPECT_LE(attemptsOf([&] { EXPECT_EQ(history().limit(), 100); }), 2);
+    EXPECT_LE(attemptsOf([&] { EXPECT_EQ(history().lifetime(), 0); }), 2);
+    EXPECT_LE(attemptsOf([&] { history().setLifetime(300); }), 2);
+}
+
 } // namespace
 } // namespace calls

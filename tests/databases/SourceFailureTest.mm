@@ -190,6 +190,15 @@ INSTANTIATE_TEST_SUITE_P(Disk, SourceFault,
                                                           support::FaultSpan::fromThenOn)),
                          faultName);
 
+TEST_F(SourceFailure, ADatabaseThatIsHeldIsNotWaitedFor) {
+    makeBoth();
+    m_disk.failOperation(1, support::Fault::busy, support::FaultSpan::fromThenOn);
+    EXPECT_THAT(contacts(), IsEmpty());
+    EXPECT_LE(m_disk.attempts(), 2);
+    EXPECT_THAT(recentCalls(coreData), IsEmpty());
+    EXPECT_LE(m_disk.attempts(), 6);
+}
+
 TEST_F(SourceFailure, EachLoadOpensItsDatabaseOnceAndClosesIt) {
     makeBoth();
     m_disk.heal();

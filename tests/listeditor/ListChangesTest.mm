@@ -181,6 +181,18 @@ TEST_F(ListChanges, WhatAnotherProcessWroteIsShownAfterAPicker) {
     EXPECT_THAT(rows(entries), ElementsAre(Row{"Two", "2"}));
 }
 
+TEST_F(ListChanges, AreMadeToWhatAnotherProcessWroteMeanwhile) {
+    openBlacklist({{"1", "One"}});
+    device.write(userFile("black"), propertyList({{"2", "Two"}, {"3", "Three"}}));
+    add("4", "Four");
+    EXPECT_THAT(document(), ElementsAre(Pair("2", "Two"), Pair("3", "Three"), Pair("4", "Four")));
+    EXPECT_THAT(texts(entries), ElementsAre("Four", "One")) << "the page does not watch the file";
+    person.swipe("One");
+    person.confirmDelete();
+    EXPECT_EQ(document().size(), 3U);
+    EXPECT_THAT(texts(entries), ElementsAre("Four"));
+}
+
 TEST_F(ListChanges, AFailedWriteIsShownAndAnnouncedAllTheSame) {
     openBlacklist({{"1", "One"}});
     device.remove("/var/mobile/Library/Preferences");

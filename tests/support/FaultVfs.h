@@ -31,6 +31,9 @@ public:
     /// Whether an operation has failed since failOperation().
     [[nodiscard]] bool hasFailed() const { return m_failed; }
 
+    /// How many operations that can fail this way there were since failOperation().
+    [[nodiscard]] int attempts() const { return m_count; }
+
     /// Files that are open now, and counts since heal().
     [[nodiscard]] int openFiles() const { return m_openFiles; }
     [[nodiscard]] int databasesOpened() const { return m_databasesOpened; }
