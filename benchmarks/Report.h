@@ -1,40 +1,32 @@
-// Collects the times of works and bare works and tells their ratios.
+// What `./zv bench` tells: the table as it grows, and the same as JSON.
 #pragma once
 
-#include "Ratio.h"
-
-#include <benchmark/benchmark.h>
-
-#include <map>
-#include <string>
-#include <vector>
+#include "Benchmark.h"
 
 namespace bench {
 
-class Report : public benchmark::BenchmarkReporter {
+class Report {
 public:
-    explicit Report(std::vector<Ratio> ratios) : m_ratios(std::move(ratios)) {}
+    /// The head of the table, with the machine in it.
+    void begin();
 
-    bool ReportContext(const Context &context) override;
-    void ReportRuns(const std::vector<Run> &runs) override;
+    /// Prints the line of one benchmark; without a result it failed.
+    void add(const Benchmark &benchmark, const std::optional<Result> &result);
 
-    /// The table, on the standard output. True when no ratio is over its bar.
-    bool print() const;
+    [[nodiscard]] bool isEmpty() const { return m_lines.empty(); }
+    /// True when every benchmark came to an end and none is over its bar.
+    [[nodiscard]] bool allHeld() const;
 
-    /// The same as JSON.
     [[nodiscard]] bool writeJSON(const std::string &path) const;
 
 private:
     struct Line {
-        const Ratio *ratio;
-        double work; ///< seconds
-        double bare;
+        Benchmark benchmark;
+        std::optional<Result> result;
     };
 
-    [[nodiscard]] std::vector<Line> lines() const;
-
-    std::vector<Ratio> m_ratios;
-    std::map<std::string, double> m_best; ///< seconds of the quickest repetition, by name
+    std::vector<Line> m_lines;
+    double m_load = 0; ///< of the machine in the last minute, before the first benchmark
 };
 
 } // namespace bench

@@ -1,12 +1,11 @@
-// Tables of many rows. The wishes: a table of 100,000 rows of one height opens within 1.5 times the time of
-// one of 100; the tree of a screen of 10,000 rows takes at most 1.2 times as long as that of 20.
+// Tables of many rows cost what their rows on the screen cost.
 #import <UIKit/UIKit.h>
 
+#include "Benchmark.h"
+#include "host/Element.h"
 #include "UIKit/UIView+Host.h"
 
-#include <benchmark/benchmark.h>
-
-/// Rows of one height, or of heights that are asked for one by one.
+/// Rows of one height.
 @interface ManyRows : NSObject <UITableViewDataSource> {
 @public
     NSInteger count;
@@ -31,83 +30,56 @@
 
 @end
 
-@interface ManyHeights : ManyRows <UITableViewDelegate>
-@end
-
-@implementation ManyHeights
-
-- (CGFloat)tableView:(UITableView *)tableView heightForRowAtIndexPath:(NSIndexPath *)path {
-    return 50;
-}
-
-@end
-
 namespace {
 
-/// A table on a 4-inch screen; the caller releases it and, after it, its rows.
+using bench::Work;
+
+constexpr bench::Limits openingLimits{.bar = 1.5};
+constexpr bench::Limits lookLimits{.bar = 1.2};
+
+ManyRows *newRows(NSInteger count) {
+    ManyRows *rows = [ManyRows new];
+    rows->count = count;
+    return rows;
+}
+
+/// A table on a 4-inch screen. The caller releases it, and its rows after it.
 UITableView *newTable(ManyRows *rows) {
     UITableView *table = [[UITableView alloc] initWithFrame:CGRectMake(0, 0, 320, 568)
                                                       style:UITableViewStyleGrouped];
     table.dataSource = rows;
-    if ([rows isKindOfClass:[ManyHeights class]])
-        table.delegate = static_cast<ManyHeights *>(rows);
     [table layoutIfNeeded];
     return table;
 }
 
-void openTable(benchmark::State &state, Class kind) {
-    ManyRows *rows = [kind new];
-    rows->count = state.range(0);
-    for (auto step : state) {
-        @autoreleasepool {
-            [newTable(rows) release];
-        }
-    }
-    [rows release];
+Work opening(NSInteger count) {
+    return [rows = newRows(count)] { [newTable(rows) release]; };
 }
 
-void openTableOfOneHeight(benchmark::State &state) {
-    openTable(state, [ManyRows class]);
+Work looking(NSInteger count) {
+    return [table = newTable(newRows(count))] {
+        std::vector<host::Element> elements;
+        host::describe(table, 0, 0, elements);
+        bench::use(&elements);
+    };
 }
 
-void openTableOfManyHeights(benchmark::State &state) {
-    openTable(state, [ManyHeights class]);
+Work scrolling(NSInteger count) {
+    return [table = newTable(newRows(count)), offset = 0.0]() mutable {
+        offset = offset > table.contentSize.height - 1200 ? 0 : offset + 568;
+        table.contentOffset = CGPointMake(0, offset);
+        [table layoutIfNeeded];
+    };
 }
 
-void treeOfScreen(benchmark::State &state) {
-    ManyRows *rows = [ManyRows new];
-    rows->count = state.range(0);
-    UITableView *table = newTable(rows);
-    for (auto step : state) {
-        @autoreleasepool {
-            std::vector<host::Element> elements;
-            host::describe(table, 0, 0, elements);
-            benchmark::DoNotOptimize(elements);
-        }
-    }
-    [table release];
-    [rows release];
-}
-
-void scrollByAScreen(benchmark::State &state) {
-    ManyRows *rows = [ManyRows new];
-    rows->count = state.range(0);
-    UITableView *table = newTable(rows);
-    double offset = 0;
-    for (auto step : state) {
-        @autoreleasepool {
-            offset = offset > table.contentSize.height - 1200 ? 0 : offset + 568;
-            table.contentOffset = CGPointMake(0, offset);
-            [table layoutIfNeeded];
-        }
-    }
-    [table release];
-    [rows release];
-}
-
-BENCHMARK(openTableOfOneHeight)->Arg(100)->Arg(100'000);
-BENCHMARK(openTableOfManyHeights)->Arg(100)->Arg(10'000);
-BENCHMARK(treeOfScreen)->Arg(20)->Arg(10'000);
-BENCHMARK(scrollByAScreen)->Arg(10'000);
+const bench::Ratio open("Table: open 100,000 rows, as 100", openingLimits, [] {
+    return bench::Works{opening(100'000), opening(100)};
+});
+const bench::Ratio look("Table: the tree of 10,000 rows, as of 20", lookLimits, [] {
+    return bench::Works{looking(10'000), looking(20)};
+});
+const bench::Ratio scroll("Table: scroll 100,000 rows by a screen, as 100", openingLimits, [] {
+    return bench::Works{scrolling(100'000), scrolling(100)};
+});
 
 } // namespace

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Builds and runs the benchmarks: a table of ratios to bare work, each with its aim and its bar. Ends badly when one is over its bar.
+# Builds and runs every benchmark: a table of figures, each with its aim and its bar. Ends badly when one is over its bar.
 # usage: ./zv bench [FILTER] [--json FILE]     FILTER is a regular expression on the names
 set -euo pipefail
 source scripts/common.sh
@@ -8,5 +8,5 @@ if [[ ${1:-} == -h || ${1:-} == --help ]]; then
     exit
 fi
 need_build_tools libbenchmark-dev libplist-dev
-build bench benchmarks/all
+build bench zv_bench >&2
 exec build/bench/benchmarks/zv_bench "$@"
