@@ -8,6 +8,7 @@ set(ZV_PIECE_SOURCES
   databases/Database.cpp
   databases/DialableForm.cpp
   databases/DisplayName.mm
+  databases/KnownNumbers.mm
   databases/LabelTexts.mm
   databases/MomentText.mm
   databases/RecentCallSource.mm

@@ -1,22 +1,11 @@
 #include "databases/LabelTexts.h"
 
-#include <stdint.h>
+#include "databases/Hash.h"
+
 #include <stdlib.h>
 #include <string.h>
 
 namespace zv {
-
-namespace {
-
-// FNV-1a (http://www.isthe.com/chongo/tech/comp/fnv/).
-uint32_t hash(const char *text) {
-    uint32_t value = 2166136261U;
-    for (; *text != '\0'; ++text)
-        value = (value ^ uint8_t(*text)) * 16777619U;
-    return value;
-}
-
-} // namespace
 
 LabelTexts::~LabelTexts() {
     for (Place &place : m_places)
@@ -26,7 +15,7 @@ LabelTexts::~LabelTexts() {
 NSString *LabelTexts::text(const char *label) {
     if (!label)
         return nil;
-    Place &place = m_places[hash(label) % placeCount];
+    Place &place = m_places[hashOf(label, strlen(label)) % placeCount];
     if (!place.label || strcmp(place.label, label) != 0)
         fill(place, label);
     return place.text;

@@ -1,6 +1,7 @@
 #include "databases/RecentCallSource.h"
 
 #include "databases/DialableForm.h"
+#include "databases/KnownNumbers.h"
 #include "databases/MomentText.h"
 #include "databases/Statement.h"
 #import "databases/ZVPickerRecord.h"
@@ -28,6 +29,37 @@ NSDateFormatter *makeTimeFormatter() {
     return formatter;
 }
 
+// Digits with or without a point, as the databases store dates, of so few digits that the division is exact;
+// false for any other text.
+bool readPlainNumber(const char *text, double *number) {
+    constexpr int mostDigits = 15;
+    double digits = 0, scale = 1;
+    int count = 0;
+    bool afterPoint = false;
+    for (; *text != '\0'; ++text) {
+        if (*text == '.' && !afterPoint) {
+            afterPoint = true;
+            continue;
+        }
+        if (*text < '0' || *text > '9' || ++count > mostDigits)
+            return false;
+        digits = digits * 10 + (*text - '0');
+        scale *= afterPoint ? 10 : 1;
+    }
+    *number = digits / scale;
+    return count > 0;
+}
+
+double numberOf(const char *text) {
+    double number = 0;
+    if (readPlainNumber(text, &number))
+        return number;
+    NSString *characters = [[NSString alloc] initWithUTF8String:text];
+    number = [characters doubleValue];
+    [characters release];
+    return number;
+}
+
 // Writes the dates of calls as the database stores them.
 class CallDates {
 public:
@@ -39,9 +71,7 @@ public:
     NSString *text(const char *stored) {
         if (!stored)
             return nil;
-        NSString *digits = [[NSString alloc] initWithUTF8String:stored];
-        double raw = [digits doubleValue];
-        [digits release];
+        const double raw = numberOf(stored);
         return (m_now - raw < day ? m_times : m_dates).text(raw + m_toReferenceDate);
     }
 
@@ -52,40 +82,15 @@ private:
     MomentText m_times{makeTimeFormatter(), minute};
 };
 
-// Numbers and their contact records; a number that has had its newest call is mapped to NSNull.
-class KnownNumbers {
-public:
-    explicit KnownNumbers(NSArray *contacts)
-        : m_records([[NSMutableDictionary alloc] initWithCapacity:[contacts count]]) {
-        for (NSDictionary *record in contacts) {
-            NSString *number = [record objectForKey:key::number];
-            if (number)
-                [m_records setObject:record forKey:number];
-        }
-    }
-    ~KnownNumbers() { [m_records release]; }
-    KnownNumbers(const KnownNumbers &) = delete;
-    KnownNumbers &operator=(const KnownNumbers &) = delete;
-
-    // The record for a number's newest call, owned by the caller; nil where the number has had it already.
-    NSMutableDictionary *takeRecord(NSString *number) {
-        id known = [m_records objectForKey:number];
-        if (known == m_taken)
-            return nil;
-        [known retain];
-        [m_records setObject:m_taken forKey:number];
-        return known ? known : [[ZVPickerRecord alloc] initWithNumber:number name:nil type:nil];
-    }
-
-private:
-    NSMutableDictionary *m_records;
-    id m_taken = [NSNull null];
-};
-
-void appendCall(NSMutableArray *records, NSMutableDictionary *record, NSString *moment) {
-    if (moment)
-        [record setObject:moment forKey:key::type];
-    [records addObject:record];
+// The record for a number's newest call, owned by the caller; nil where the number has had it already.
+NSMutableDictionary *newRecord(KnownNumbers &numbers, const DialableForm &number) {
+    NSMutableDictionary *record = nil;
+    if (numbers.take(number.bytes(), number.length(), &record) != KnownNumbers::Answer::stranger)
+        return record;
+    NSString *text = [[NSString alloc] initWithUTF8String:number.bytes()];
+    record = [[ZVPickerRecord alloc] initWithNumber:text name:nil type:nil];
+    [text release];
+    return record;
 }
 
 } // namespace
@@ -100,15 +105,13 @@ void replaceWithRecentCalls(NSMutableArray *records, const char *path, CallHisto
     CallDates dates(schema, now);
     Statement row(database, callHistoryQueries(schema).recentCalls);
     while (row.nextRow()) {
-        DialableForm dialable(row.text(numberColumn));
-        if (dialable.isEmpty())
+        NSMutableDictionary *record = newRecord(numbers, DialableForm(row.text(numberColumn)));
+        if (!record)
             continue;
-        NSString *number = [[NSString alloc] initWithUTF8String:dialable.bytes()];
-        NSMutableDictionary *record = numbers.takeRecord(number);
-        if (record)
-            appendCall(records, record, dates.text(row.text(dateColumn)));
+        if (NSString *moment = dates.text(row.text(dateColumn)))
+            [record setObject:moment forKey:key::type];
+        [records addObject:record];
         [record release];
-        [number release];
     }
 }
 
