@@ -1,12 +1,12 @@
-// What the number pickers show in a row.
+// What the number pickers and the list editor show in a row.
 #pragma once
 
 #import <Foundation/Foundation.h>
 
 /// A mutable dictionary with the keys of settings/RecordKeys.h: "number", and "name" and "type" where there
-/// are any. The pickers hold one for every number in the address book, so these three have places of their
-/// own; a general dictionary takes several times the memory and most of the time of a load. Other keys work
-/// as in any dictionary.
+/// are any. The pickers hold one for every number in the address book and a list page one for every entry, so
+/// these three have places of their own; a general dictionary takes several times the memory and most of the
+/// time of a load. Other keys work as in any dictionary.
 @interface ZVPickerRecord : NSMutableDictionary {
     NSString *_number;
     NSString *_name;

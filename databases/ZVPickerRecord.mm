@@ -33,14 +33,23 @@
     [super dealloc];
 }
 
-// The place of a key that has one.
+// The place of a key that has one. Nearly every key is one of ours itself; comparing texts would take most of
+// the time of a lookup.
 static NSString **placeOf(ZVPickerRecord *record, id key) {
-    if ([zv::key::number isEqual:key])
-        return &record->_number;
-    if ([zv::key::name isEqual:key])
-        return &record->_name;
-    if ([zv::key::type isEqual:key])
-        return &record->_type;
+    const struct {
+        NSString *key;
+        NSString **place;
+    } places[] = {{zv::key::number, &record->_number},
+                  {zv::key::name, &record->_name},
+                  {zv::key::type, &record->_type}};
+    for (const auto &one : places) {
+        if (one.key == key)
+            return one.place;
+    }
+    for (const auto &one : places) {
+        if ([one.key isEqual:key])
+            return one.place;
+    }
     return nullptr;
 }
 

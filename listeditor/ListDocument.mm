@@ -1,8 +1,8 @@
 #include "listeditor/ListDocument.h"
 
+#import "databases/ZVPickerRecord.h"
 #include "listeditor/SortedKeys.h"
 #include "settings/Paths.h"
-#include "settings/RecordKeys.h"
 
 namespace zv {
 
@@ -62,9 +62,7 @@ NSMutableDictionary *ListDocument::remove(NSString *number) const {
 }
 
 NSDictionary *newRowRecord(NSString *number, NSString *name) {
-    NSString *const keys[] = {key::number, key::name};
-    NSString *const values[] = {number, name};
-    return [[NSDictionary alloc] initWithObjects:values forKeys:keys count:2];
+    return [[ZVPickerRecord alloc] initWithNumber:number name:name type:nil];
 }
 
 void rebuildRows(NSMutableArray *rows, NSDictionary *entries) {
