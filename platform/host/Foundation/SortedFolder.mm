@@ -17,7 +17,8 @@ std::optional<std::vector<FolderEntry>> sortedFolder(const std::string &path) {
     for (; !error && iterator != fs::directory_iterator(); iterator.increment(error)) {
         std::error_code ignored;
         const std::string name = iterator->path().filename().string();
-        const bool isFolder = fs::is_directory(iterator->symlink_status(ignored));
+        // Both are told by the folder itself, without a look at the file.
+        const bool isFolder = !iterator->is_symlink(ignored) && iterator->is_directory(ignored);
         entries.push_back({name, utf16(string(name)), isFolder});
     }
     if (error)
