@@ -1,4 +1,5 @@
-// How work grows with the databases, told by the file operations that it takes rather than by a clock.
+// How work grows with the databases, told by the file operations and by the processor's time that it takes.
+#include "support/Growth.h"
 #include "CallHistoryFixture.h"
 #include "SourceFixture.h"
 
@@ -43,6 +44,56 @@ TEST_F(SourceGrowth, TenTimesTheContactsTakeAtMostTwelveTimesTheReads) {
 TEST_F(SourceGrowth, TenTimesTheCallsTakeAtMostTwelveTimesTheReads) {
     auto load = [this] { return recentCalls(coreData); };
     EXPECT_LE(readsOf(many, load), mostGrowth * readsOf(few, load));
+}
+
+class SourceTimeGrowth : public sources::SourceTest {
+protected:
+    static constexpr int little = 1000, much = 10 * little;
+
+    /// A folder's databases with so many people and a call with each, every one on another day.
+    class Phone {
+    public:
+        explicit Phone(int count) {
+            support::AddressBookBuilder book(m_addressBook);
+            support::CallHistoryBuilder history(m_callHistory, coreData);
+            sim::SqlTransaction people(book.sql());
+            sim::SqlTransaction calls(history.sql());
+            for (int index = 0; index < count; ++index) {
+                book.person("Robert", "Miller " + std::to_string(index), std::to_string(10000000 + index));
+                history.call(std::to_string(10000000 + index * 2), now - index * 24 * hour);
+            }
+            people.commit();
+            calls.commit();
+        }
+
+        void loadContacts(NSMutableArray *records) const {
+            zv::appendContacts(m_addressBook.c_str(), sources::byFirstName, records);
+        }
+
+        void loadRecentCalls(NSMutableArray *records) const {
+            loadContacts(records);
+            zv::replaceWithRecentCalls(records, m_callHistory.c_str(), coreData, now);
+        }
+
+    private:
+        support::TemporaryFolder m_folder;
+        std::string m_addressBook = m_folder.file("AddressBook.sqlitedb");
+        std::string m_callHistory = m_folder.file("calls");
+    };
+
+    const Phone m_little{little}, m_much{much};
+};
+
+TEST_F(SourceTimeGrowth, TenTimesTheContactsTakeAtMostTwelveTimesTheTime) {
+    EXPECT_TRUE(support::growsAtMost(
+        mostGrowth, [this] { m_little.loadContacts([NSMutableArray array]); },
+        [this] { m_much.loadContacts([NSMutableArray array]); }));
+}
+
+TEST_F(SourceTimeGrowth, TenTimesTheCallsTakeAtMostTwelveTimesTheTime) {
+    EXPECT_TRUE(support::growsAtMost(
+        mostGrowth, [this] { m_little.loadRecentCalls([NSMutableArray array]); },
+        [this] { m_much.loadRecentCalls([NSMutableArray array]); }));
 }
 
 class CallHistoryGrowth : public calls::CallHistoryTest {
