@@ -1,4 +1,5 @@
-// Documents pass between the platform and two independent implementations: Python's plistlib and libplist.
+// Documents pass between the platform and two independent implementations: Python's plistlib and libplist,
+// the latter as a library and as its program, plistutil.
 #include "Foundation/PropertyList.h"
 #include "host/FileContent.h"
 #include "host/Text.h"
@@ -52,11 +53,12 @@ protected:
     }
 
     // True when the program ended well.
-    bool python(const std::string &program) {
-        const std::string command = "cd '" + folder.path().string() + "' && python3 -c '" + program + "'";
-        FILE *pipe = popen(command.c_str(), "r");
+    bool run(const std::string &line) {
+        FILE *pipe = popen(("cd '" + folder.path().string() + "' && " + line).c_str(), "r");
         return pipe && pclose(pipe) == 0;
     }
+
+    bool python(const std::string &program) { return run("python3 -c '" + program + "'"); }
 };
 
 TEST_F(PropertyListExchange, PythonReadsOursAndWeReadItsXMLAndBinary) {
@@ -106,6 +108,16 @@ void expectThroughLibplist(id root) {
     EXPECT_TRUE([host::propertyList({bytes, size}) isEqual:root]);
     plist_to_bin_free(bytes);
     plist_free(tree);
+}
+
+TEST_F(PropertyListExchange, PlistutilReadsOursAndWeReadItsXMLAndBinary) {
+    for (id root : {(id)sample(), (id)controlCharacters()}) {
+        write(root);
+        for (const char *form : {"xml", "bin"}) {
+            ASSERT_TRUE(run(std::string("plistutil -i ours -f ") + form + " -o " + form));
+            expectRead(form, root);
+        }
+    }
 }
 
 TEST_F(PropertyListExchange, LibplistReadsOursAndWeReadItsXMLAndBinary) {
