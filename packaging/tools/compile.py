@@ -139,11 +139,12 @@ class Compiler:
             return list(pool.map(self.compile, sources))
 
 
+# Nothing of the slice is ever encrypted: without room for that, code begins on the headers' page, a large one saved.
 def link_arm64(top: Path, objects: list[Path], output: Path) -> None:
     folder = top / "platform/ios/stubs"
     libraries = [word for name in FRAMEWORKS for word in ("-framework", name)] + [f"-l{name}" for name in LIBRARIES]
     run(
-        tool("ld64.lld"), "-arch", "arm64", "-platform_version", "ios", VERSION, VERSION, "-bundle", "-dead_strip", "-headerpad", "0x100",
+        tool("ld64.lld"), "-arch", "arm64", "-platform_version", "ios", VERSION, VERSION, "-bundle", "-dead_strip", "-headerpad", "0x100", "-no_encryption",
         "-no_adhoc_codesign", f"-F{folder}", f"-L{folder}", *objects, *libraries, "-o", output,
     )
 
