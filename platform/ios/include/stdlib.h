@@ -9,6 +9,5 @@ void *malloc(size_t size);
 void *realloc(void *block, size_t size);
 void free(void *block);
 void qsort(void *base, size_t count, size_t size, int (*compare)(const void *, const void *));
-double strtod(const char *text, char **end);
 int system(const char *command);
 }

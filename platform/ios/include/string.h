@@ -6,9 +6,6 @@
 extern "C" {
 int memcmp(const void *left, const void *right, size_t size);
 void *memcpy(void *to, const void *from, size_t size);
-void *memset(void *at, int byte, size_t size);
-void *memchr(const void *at, int byte, size_t size);
 int strcmp(const char *left, const char *right);
 char *strdup(const char *text);
-size_t strlen(const char *text);
 }

@@ -20,7 +20,6 @@ typedef double NSTimeInterval;
 typedef unsigned short unichar;
 typedef NSUInteger NSStringEncoding;
 typedef NSInteger NSComparisonResult;
-typedef NSUInteger NSStringCompareOptions;
 typedef struct _NSZone NSZone;
 
 #define NS_ENUM(type, name)                                                                                  \
@@ -33,13 +32,7 @@ typedef struct _NSZone NSZone;
     enum name : type
 
 enum : NSComparisonResult { NSOrderedAscending = -1, NSOrderedSame = 0, NSOrderedDescending = 1 };
-enum : NSStringEncoding {
-    NSASCIIStringEncoding = 1,
-    NSUTF8StringEncoding = 4,
-    NSISOLatin1StringEncoding = 5,
-    NSUnicodeStringEncoding = 10,
-    NSUTF16LittleEndianStringEncoding = 0x94000100,
-};
+enum : NSStringEncoding { NSASCIIStringEncoding = 1 };
 
 typedef struct _NSRange {
     NSUInteger location;
@@ -50,12 +43,11 @@ static inline NSRange NSMakeRange(NSUInteger location, NSUInteger length) {
     return NSRange{location, length};
 }
 
-@class NSArray, NSAttributedString, NSBundle, NSData, NSDate, NSDictionary, NSEnumerator, NSError, NSIndexSet,
-    NSLocale, NSNumber, NSSet, NSString, NSURL;
+@class NSArray, NSBundle, NSData, NSDate, NSDictionary, NSEnumerator, NSError, NSIndexSet, NSNumber, NSSet,
+    NSString, NSURL;
 
 @protocol NSObject
 - (Class)class;
-- (Class)superclass;
 - (BOOL)isEqual:(id)object;
 - (NSUInteger)hash;
 - (BOOL)isKindOfClass:(Class)aClass;
@@ -64,7 +56,6 @@ static inline NSRange NSMakeRange(NSUInteger location, NSUInteger length) {
 - (instancetype)retain;
 - (oneway void)release;
 - (instancetype)autorelease;
-- (NSString *)description;
 @end
 
 @protocol NSCopying
@@ -81,7 +72,6 @@ __attribute__((objc_root_class))
 - (instancetype)init;
 - (void)dealloc;
 - (id)copy;
-- (id)mutableCopy;
 @end
 
 @interface NSObject (NSDelayedPerforming)
@@ -111,11 +101,6 @@ typedef struct {
 + (instancetype)stringWithFormat:(NSString *)format, ... __attribute__((format(NSString, 1, 2)));
 + (instancetype)stringWithString:(NSString *)other;
 + (instancetype)stringWithUTF8String:(const char *)bytes;
-- (instancetype)initWithBytes:(const void *)bytes
-                       length:(NSUInteger)length
-                     encoding:(NSStringEncoding)encoding;
-- (instancetype)initWithCharacters:(const unichar *)characters length:(NSUInteger)length;
-- (instancetype)initWithFormat:(NSString *)format, ... __attribute__((format(NSString, 1, 2)));
 - (instancetype)initWithUTF8String:(const char *)bytes;
 @property (readonly) NSUInteger length;
 @property (readonly) const char *UTF8String;
@@ -125,28 +110,14 @@ typedef struct {
 @property (readonly) float floatValue;
 @property (readonly) double doubleValue;
 @property (readonly, copy) NSString *stringByDeletingPathExtension;
-@property (readonly, copy) NSString *pathExtension;
-- (unichar)characterAtIndex:(NSUInteger)index;
 - (void)getCharacters:(unichar *)buffer range:(NSRange)range;
-- (BOOL)getCString:(char *)buffer maxLength:(NSUInteger)length encoding:(NSStringEncoding)encoding;
-- (BOOL)getBytes:(void *)buffer
-         maxLength:(NSUInteger)maximum
-        usedLength:(NSUInteger *)used
-          encoding:(NSStringEncoding)encoding
-           options:(NSUInteger)options
-             range:(NSRange)range
-    remainingRange:(NSRange *)rest;
 - (NSComparisonResult)compare:(NSString *)other;
 - (BOOL)isEqualToString:(NSString *)other;
 - (BOOL)hasSuffix:(NSString *)suffix;
 - (NSString *)substringToIndex:(NSUInteger)index;
 - (NSString *)stringByAppendingString:(NSString *)other;
-- (NSString *)stringByAppendingFormat:(NSString *)format, ... __attribute__((format(NSString, 1, 2)));
 - (NSString *)stringByReplacingOccurrencesOfString:(NSString *)target withString:(NSString *)replacement;
 - (NSString *)stringByAddingPercentEscapesUsingEncoding:(NSStringEncoding)encoding;
-@end
-
-@interface NSSimpleCString : NSString
 @end
 
 @interface NSValue : NSObject <NSCopying>
@@ -160,7 +131,6 @@ typedef struct {
 @property (readonly) int intValue;
 @property (readonly) NSInteger integerValue;
 @property (readonly) float floatValue;
-@property (readonly) BOOL boolValue;
 @end
 
 @interface NSNull : NSObject
@@ -199,7 +169,6 @@ typedef struct {
 @property (readonly) NSUInteger count;
 @property (readonly, copy) NSArray *allKeys;
 - (id)objectForKey:(id)key;
-- (void)getObjects:(id *)objects andKeys:(id *)keys;
 - (NSEnumerator *)keyEnumerator;
 - (NSArray *)objectsForKeys:(NSArray *)keys notFoundMarker:(id)marker;
 - (BOOL)writeToFile:(NSString *)path atomically:(BOOL)atomically;
@@ -215,9 +184,6 @@ typedef struct {
 
 @interface NSDate : NSObject <NSCopying>
 + (instancetype)date;
-+ (instancetype)dateWithTimeIntervalSince1970:(NSTimeInterval)seconds;
-+ (instancetype)dateWithTimeIntervalSinceReferenceDate:(NSTimeInterval)seconds;
-- (instancetype)initWithTimeIntervalSince1970:(NSTimeInterval)seconds;
 - (instancetype)initWithTimeIntervalSinceReferenceDate:(NSTimeInterval)seconds;
 @property (readonly) NSTimeInterval timeIntervalSince1970;
 @end
@@ -239,7 +205,6 @@ typedef NS_ENUM(NSUInteger, NSDateFormatterStyle) {
 
 @interface NSTimeZone : NSObject
 + (NSTimeZone *)defaultTimeZone;
-+ (NSTimeZone *)localTimeZone;
 - (NSInteger)secondsFromGMTForDate:(NSDate *)date;
 @end
 
@@ -252,7 +217,6 @@ typedef NS_ENUM(NSUInteger, NSDateFormatterStyle) {
 @end
 
 @interface NSEnumerator : NSObject <NSFastEnumeration>
-- (id)nextObject;
 @end
 
 @interface NSDirectoryEnumerator : NSEnumerator
