@@ -2,6 +2,7 @@
 #pragma once
 
 #include <AddressBook/ABRecord.h>
+#include <stdint.h>
 
 typedef CFTypeRef ABMultiValueRef;
 typedef int32_t ABMultiValueIdentifier;

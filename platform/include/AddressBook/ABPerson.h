@@ -2,6 +2,7 @@
 #pragma once
 
 #include <AddressBook/ABMultiValue.h>
+#include <stdint.h>
 
 typedef uint32_t ABPersonSortOrdering;
 enum { kABPersonSortByFirstName = 0, kABPersonSortByLastName = 1 };
