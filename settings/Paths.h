@@ -48,12 +48,13 @@ constexpr NSString *callHistory(CallHistorySchema schema) {
 } // namespace path
 
 /// Where a path of the phone lies for this process: on the phone the path itself, elsewhere below the folder
-/// that stands for the phone's "/".
+/// that stands for the phone's "/". Nil for nil, and for text that can be no path.
 inline NSString *located(NSString *phonePath) {
 #ifdef __APPLE__
     return phonePath;
 #else
-    return [NSString stringWithUTF8String:host::devicePath([phonePath UTF8String]).c_str()];
+    const char *path = [phonePath UTF8String];
+    return path ? [NSString stringWithUTF8String:host::devicePath(path).c_str()] : nil;
 #endif
 }
 
