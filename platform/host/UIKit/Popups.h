@@ -17,6 +17,8 @@
 - (void)_hostDidPresent;
 - (void)_hostDidDismiss:(NSInteger)buttonIndex;
 - (host::Outcome)_hostTapOutside;
+/// The system takes it away: the delegate is told so, or the cancel button is pressed in its place.
+- (void)_hostCancel;
 @end
 
 namespace host {

@@ -1,5 +1,4 @@
 // How a sheet is shown and answered.
-#include "host/Device.h"
 #include "host/EventLog.h"
 #include "host/Text.h"
 #include "UIKit/PopupElement.h"
@@ -54,6 +53,17 @@ constexpr float tapOutsideCancelsSince = 8.0F;
     if (sheet->can.clicked)
         [sheet->delegate actionSheet:self clickedButtonAtIndex:index];
     [self dismissWithClickedButtonIndex:index animated:YES];
+}
+
+- (void)_hostCancel {
+    UIActionSheetState *sheet = [self _hostSheet];
+    if (sheet->closing)
+        return;
+    if (!sheet->can.cancel && sheet->has(sheet->cancel))
+        return [self _hostClick:sheet->cancel];
+    if (sheet->can.cancel)
+        [sheet->delegate actionSheetCancel:self];
+    [self dismissWithClickedButtonIndex:sheet->cancel animated:NO];
 }
 
 - (const char *)_hostRoleOf:(NSInteger)index {

@@ -8,7 +8,7 @@
 /// Which optional methods the delegate has, asked once when it is set.
 struct UIActionSheetDelegateMethods {
     bool clicked = false, willPresent = false, didPresent = false;
-    bool willDismiss = false, didDismiss = false;
+    bool willDismiss = false, didDismiss = false, cancel = false;
 };
 
 struct UIActionSheetState {

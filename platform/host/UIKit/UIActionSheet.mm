@@ -54,6 +54,7 @@
         .didPresent = bool([delegate respondsToSelector:@selector(didPresentActionSheet:)]),
         .willDismiss = bool([delegate respondsToSelector:@selector(actionSheet:willDismissWithButtonIndex:)]),
         .didDismiss = bool([delegate respondsToSelector:@selector(actionSheet:didDismissWithButtonIndex:)]),
+        .cancel = bool([delegate respondsToSelector:@selector(actionSheetCancel:)]),
     };
 }
 

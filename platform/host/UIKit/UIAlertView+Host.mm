@@ -1,15 +1,11 @@
 // How an alert is shown and answered.
-#include "host/Device.h"
 #include "host/EventLog.h"
 #include "host/Text.h"
 #include "UIKit/PopupElement.h"
 #include "UIKit/UIAlertView+State.h"
 #include "UIKit/UIView+Host.h"
 
-#import <UIKit/UIColor.h>
 #import <UIKit/UIFont.h>
-
-#include <cstdlib>
 
 @implementation UIAlertView (Host)
 
@@ -55,6 +51,24 @@
     alert->visible = false;
     if (alert->can.didDismiss)
         [alert->delegate alertView:self didDismissWithButtonIndex:buttonIndex];
+}
+
+- (void)_hostClick:(NSInteger)index {
+    UIAlertViewState *alert = [self _hostAlert];
+    if (alert->can.clicked)
+        [alert->delegate alertView:self clickedButtonAtIndex:index];
+    [self dismissWithClickedButtonIndex:index animated:YES];
+}
+
+- (void)_hostCancel {
+    UIAlertViewState *alert = [self _hostAlert];
+    if (alert->closing)
+        return;
+    if (!alert->can.cancel && alert->has(alert->cancel))
+        return [self _hostClick:alert->cancel];
+    if (alert->can.cancel)
+        [alert->delegate alertViewCancel:self];
+    [self dismissWithClickedButtonIndex:alert->cancel animated:NO];
 }
 
 /// A tap beside an alert is ignored.
@@ -114,9 +128,7 @@
     const NSInteger index = host::buttonIndex(gesture);
     if (!alert->has(index) || alert->closing || ![self _hostEnables:index])
         return host::Outcome::disabled;
-    if (alert->can.clicked)
-        [alert->delegate alertView:self clickedButtonAtIndex:index];
-    [self dismissWithClickedButtonIndex:index animated:YES];
+    [self _hostClick:index];
     return host::Outcome::done;
 }
 

@@ -9,7 +9,7 @@
 /// Which optional methods the delegate has, asked once when it is set.
 struct UIAlertViewDelegateMethods {
     bool clicked = false, willPresent = false, didPresent = false;
-    bool willDismiss = false, didDismiss = false, shouldEnable = false;
+    bool willDismiss = false, didDismiss = false, shouldEnable = false, cancel = false;
 };
 
 struct UIAlertViewState {

@@ -57,6 +57,7 @@
         .willDismiss = bool([delegate respondsToSelector:@selector(alertView:willDismissWithButtonIndex:)]),
         .didDismiss = bool([delegate respondsToSelector:@selector(alertView:didDismissWithButtonIndex:)]),
         .shouldEnable = bool([delegate respondsToSelector:@selector(alertViewShouldEnableFirstOtherButton:)]),
+        .cancel = bool([delegate respondsToSelector:@selector(alertViewCancel:)]),
     };
 }
 

@@ -26,6 +26,9 @@ namespace host {
 /// Runs the main run loop until nothing is left that is due now.
 void waitUntilIdle();
 
+/// The system cancels the alert or sheet in front, as it may at any time. False when there is none.
+bool cancelQuestion();
+
 /// The Home button, and a tap on the program's icon: the program is told of both, its pages are not.
 void leaveAndReturn();
 

@@ -132,4 +132,14 @@ Outcome perform(const Gesture &gesture) {
     return outcome;
 }
 
+bool cancelQuestion() {
+    waitUntilIdle();
+    UIView<HostPopup> *popup = frontPopup();
+    @autoreleasepool {
+        [popup _hostCancel];
+    }
+    waitUntilIdle();
+    return popup != nil;
+}
+
 } // namespace host

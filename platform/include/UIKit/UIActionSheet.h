@@ -20,6 +20,8 @@ typedef NS_ENUM(NSInteger, UIActionSheetStyle) {
 - (void)didPresentActionSheet:(UIActionSheet *)actionSheet;
 - (void)actionSheet:(UIActionSheet *)actionSheet willDismissWithButtonIndex:(NSInteger)buttonIndex;
 - (void)actionSheet:(UIActionSheet *)actionSheet didDismissWithButtonIndex:(NSInteger)buttonIndex;
+/// The system takes the sheet away; without this method it is as if the cancel button was tapped.
+- (void)actionSheetCancel:(UIActionSheet *)actionSheet;
 @end
 
 @interface UIActionSheet : UIView {

@@ -21,6 +21,8 @@ typedef NS_ENUM(NSInteger, UIAlertViewStyle) {
 - (void)alertView:(UIAlertView *)alertView willDismissWithButtonIndex:(NSInteger)buttonIndex;
 - (void)alertView:(UIAlertView *)alertView didDismissWithButtonIndex:(NSInteger)buttonIndex;
 - (BOOL)alertViewShouldEnableFirstOtherButton:(UIAlertView *)alertView;
+/// The system takes the alert away; without this method it is as if the cancel button was tapped.
+- (void)alertViewCancel:(UIAlertView *)alertView;
 @end
 
 @interface UIAlertView : UIView {
