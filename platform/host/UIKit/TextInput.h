@@ -21,14 +21,20 @@
 
 namespace host {
 
+/// What an input asks of its keyboard, as it is at first.
+struct InputTraits {
+    UITextAutocapitalizationType autocapitalizationType = UITextAutocapitalizationTypeSentences;
+    UITextAutocorrectionType autocorrectionType = UITextAutocorrectionTypeDefault;
+    UIKeyboardType keyboardType = UIKeyboardTypeDefault;
+    UIReturnKeyType returnKeyType = UIReturnKeyDefault;
+    bool secureTextEntry = false;
+};
+
 /// What the keyboard types into now, or nil.
 [[nodiscard]] UIView<HostTextInput> *focusedInput();
 
 /// Carries out a tap or a typing gesture on `input`, which takes the keyboard first if it can.
 [[nodiscard]] Outcome performText(UIView<HostTextInput> *input, const Gesture &gesture);
-
-/// Whether a keyboard of this type has a Return key.
-[[nodiscard]] bool hasReturnKey(UIKeyboardType type);
 
 /// Sets the value and the attributes that all text inputs have.
 void describeInput(Element &element, UIView<HostTextInput> *input);

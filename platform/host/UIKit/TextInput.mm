@@ -3,6 +3,7 @@
 #import <UIKit/UIResponder.h>
 
 #include "host/Text.h"
+#include "host/Unicode.h"
 #include "UIKit/UIResponder+Host.h"
 
 namespace host {
@@ -11,7 +12,7 @@ namespace {
 
 /// What one key press gives: a character, of one UTF-16 unit or two.
 std::u16string nextKey(const std::u16string &text, std::size_t at) {
-    const bool pair = text[at] >= 0xD800 && text[at] < 0xDC00 && at + 1 < text.size();
+    const bool pair = isHighSurrogate(text[at]) && at + 1 < text.size();
     return text.substr(at, pair ? 2 : 1);
 }
 
@@ -40,6 +41,11 @@ Outcome clear(UIView<HostTextInput> *input) {
     return Outcome::done;
 }
 
+bool hasReturnKey(UIKeyboardType type) {
+    return type != UIKeyboardTypeNumberPad && type != UIKeyboardTypePhonePad &&
+           type != UIKeyboardTypeDecimalPad;
+}
+
 Outcome pressReturn(UIView<HostTextInput> *input) {
     if (!hasReturnKey([input keyboardType]))
         return Outcome::disabled;
@@ -62,11 +68,6 @@ UIView<HostTextInput> *focusedInput() {
     UIResponder *responder = firstResponder();
     const bool takesText = [responder respondsToSelector:@selector(_hostReplace:with:)];
     return takesText ? (UIView<HostTextInput> *)responder : nil;
-}
-
-bool hasReturnKey(UIKeyboardType type) {
-    return type != UIKeyboardTypeNumberPad && type != UIKeyboardTypePhonePad &&
-           type != UIKeyboardTypeDecimalPad;
 }
 
 Outcome performText(UIView<HostTextInput> *input, const Gesture &gesture) {

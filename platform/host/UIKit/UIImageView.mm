@@ -6,6 +6,8 @@
 
 @implementation UIImageView
 
+@synthesize highlightedImage = _highlightedImage, highlighted = _highlighted;
+
 - (id)initWithFrame:(CGRect)frame {
     if ((self = [super initWithFrame:frame]))
         [self setUserInteractionEnabled:NO];
@@ -40,24 +42,6 @@
     [_image release];
     _image = image;
     [[self superview] setNeedsLayout];
-}
-
-- (UIImage *)highlightedImage {
-    return _highlightedImage;
-}
-
-- (void)setHighlightedImage:(UIImage *)image {
-    [image retain];
-    [_highlightedImage release];
-    _highlightedImage = image;
-}
-
-- (BOOL)isHighlighted {
-    return _highlighted;
-}
-
-- (void)setHighlighted:(BOOL)highlighted {
-    _highlighted = highlighted;
 }
 
 - (CGSize)sizeThatFits:(CGSize)size {

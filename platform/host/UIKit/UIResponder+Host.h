@@ -1,3 +1,4 @@
+// Who has the keyboard.
 #pragma once
 
 #import <UIKit/UIResponder.h>
@@ -6,6 +7,9 @@
 
 /// Gives up the keyboard without being asked: the responder leaves the screen.
 - (void)_hostDropFirstResponder;
+
+/// The responder has just lost the keyboard, in whichever way. The base does nothing.
+- (void)_hostDidResign;
 
 @end
 

@@ -53,7 +53,7 @@ UIResponder *host::firstResponder() {
         return YES;
     if (![self canResignFirstResponder])
         return NO;
-    setCurrent(nil);
+    [self _hostDropFirstResponder];
     return YES;
 }
 
@@ -62,8 +62,14 @@ UIResponder *host::firstResponder() {
 }
 
 - (void)_hostDropFirstResponder {
-    if (current == self)
-        setCurrent(nil);
+    if (current != self)
+        return;
+    setCurrent(nil);
+    [self _hostDidResign];
+}
+
+- (void)_hostDidResign {
+    // for responders that have somebody to tell
 }
 
 @end

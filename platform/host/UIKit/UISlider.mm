@@ -23,6 +23,9 @@ std::string decimal(float number) {
 
 @implementation UISlider
 
+@synthesize minimumValueImage = _minimumValueImage, maximumValueImage = _maximumValueImage;
+@synthesize continuous = _continuous;
+
 - (id)initWithFrame:(CGRect)frame {
     if ((self = [super initWithFrame:frame])) {
         _maximumValue = 1;
@@ -72,34 +75,6 @@ std::string decimal(float number) {
     _maximumValue = maximum;
     _minimumValue = std::min(_minimumValue, maximum);
     [self setValue:_value];
-}
-
-- (UIImage *)minimumValueImage {
-    return _minimumValueImage;
-}
-
-- (void)setMinimumValueImage:(UIImage *)image {
-    [image retain];
-    [_minimumValueImage release];
-    _minimumValueImage = image;
-}
-
-- (UIImage *)maximumValueImage {
-    return _maximumValueImage;
-}
-
-- (void)setMaximumValueImage:(UIImage *)image {
-    [image retain];
-    [_maximumValueImage release];
-    _maximumValueImage = image;
-}
-
-- (BOOL)isContinuous {
-    return _continuous;
-}
-
-- (void)setContinuous:(BOOL)continuous {
-    _continuous = continuous;
 }
 
 - (BOOL)_hostDescribe:(host::Element &)element {

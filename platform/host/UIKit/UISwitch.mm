@@ -12,6 +12,8 @@ constexpr CGFloat switchWidth = 51, switchHeight = 31;
 
 @implementation UISwitch
 
+@synthesize onTintColor = _onTintColor;
+
 - (void)dealloc {
     [_onTintColor release];
     [super dealloc];
@@ -37,16 +39,6 @@ constexpr CGFloat switchWidth = 51, switchHeight = 31;
 
 - (void)setOn:(BOOL)on animated:(BOOL)animated {
     _on = on;
-}
-
-- (UIColor *)onTintColor {
-    return _onTintColor;
-}
-
-- (void)setOnTintColor:(UIColor *)color {
-    [color retain];
-    [_onTintColor release];
-    _onTintColor = color;
 }
 
 - (BOOL)_hostDescribe:(host::Element &)element {

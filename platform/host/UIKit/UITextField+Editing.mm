@@ -63,23 +63,7 @@ bool shows(UITextFieldViewMode mode, bool editing) {
     return !field->can.shouldEnd || [field->delegate textFieldShouldEndEditing:self];
 }
 
-- (BOOL)resignFirstResponder {
-    const BOOL was = [self isFirstResponder];
-    if (![super resignFirstResponder])
-        return NO;
-    if (was)
-        [self _hostDidEnd];
-    return YES;
-}
-
-- (void)_hostDropFirstResponder {
-    const BOOL was = [self isFirstResponder];
-    [super _hostDropFirstResponder];
-    if (was)
-        [self _hostDidEnd];
-}
-
-- (void)_hostDidEnd {
+- (void)_hostDidResign {
     UITextFieldState *field = [self _hostField];
     if (field->can.didEnd)
         [field->delegate textFieldDidEndEditing:self];

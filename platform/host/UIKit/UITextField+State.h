@@ -31,12 +31,7 @@ struct UITextFieldState {
 
     id<UITextFieldDelegate> delegate = nil;
     UITextFieldDelegateMethods can;
-
-    UITextAutocapitalizationType autocapitalizationType = UITextAutocapitalizationTypeSentences;
-    UITextAutocorrectionType autocorrectionType = UITextAutocorrectionTypeDefault;
-    UIKeyboardType keyboardType = UIKeyboardTypeDefault;
-    UIReturnKeyType returnKeyType = UIReturnKeyDefault;
-    bool secureTextEntry = false;
+    host::InputTraits traits;
 };
 
 @interface UITextField (State)

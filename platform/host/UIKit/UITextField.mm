@@ -158,43 +158,43 @@
 }
 
 - (UITextAutocapitalizationType)autocapitalizationType {
-    return _field->autocapitalizationType;
+    return _field->traits.autocapitalizationType;
 }
 
 - (void)setAutocapitalizationType:(UITextAutocapitalizationType)type {
-    _field->autocapitalizationType = type;
+    _field->traits.autocapitalizationType = type;
 }
 
 - (UITextAutocorrectionType)autocorrectionType {
-    return _field->autocorrectionType;
+    return _field->traits.autocorrectionType;
 }
 
 - (void)setAutocorrectionType:(UITextAutocorrectionType)type {
-    _field->autocorrectionType = type;
+    _field->traits.autocorrectionType = type;
 }
 
 - (UIKeyboardType)keyboardType {
-    return _field->keyboardType;
+    return _field->traits.keyboardType;
 }
 
 - (void)setKeyboardType:(UIKeyboardType)type {
-    _field->keyboardType = type;
+    _field->traits.keyboardType = type;
 }
 
 - (UIReturnKeyType)returnKeyType {
-    return _field->returnKeyType;
+    return _field->traits.returnKeyType;
 }
 
 - (void)setReturnKeyType:(UIReturnKeyType)type {
-    _field->returnKeyType = type;
+    _field->traits.returnKeyType = type;
 }
 
 - (BOOL)isSecureTextEntry {
-    return _field->secureTextEntry;
+    return _field->traits.secureTextEntry;
 }
 
 - (void)setSecureTextEntry:(BOOL)secure {
-    _field->secureTextEntry = secure;
+    _field->traits.secureTextEntry = secure;
 }
 
 @end

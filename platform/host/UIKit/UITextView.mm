@@ -20,11 +20,7 @@ struct UITextViewState {
     NSTextAlignment textAlignment = NSTextAlignmentLeft;
     bool editable = true;
     bool selectable = true;
-    UITextAutocapitalizationType autocapitalizationType = UITextAutocapitalizationTypeSentences;
-    UITextAutocorrectionType autocorrectionType = UITextAutocorrectionTypeDefault;
-    UIKeyboardType keyboardType = UIKeyboardTypeDefault;
-    UIReturnKeyType returnKeyType = UIReturnKeyDefault;
-    bool secureTextEntry = false;
+    host::InputTraits traits;
 };
 
 namespace {
@@ -106,43 +102,43 @@ void post(NSString *name, UITextView *view) {
 }
 
 - (UITextAutocapitalizationType)autocapitalizationType {
-    return _textView->autocapitalizationType;
+    return _textView->traits.autocapitalizationType;
 }
 
 - (void)setAutocapitalizationType:(UITextAutocapitalizationType)type {
-    _textView->autocapitalizationType = type;
+    _textView->traits.autocapitalizationType = type;
 }
 
 - (UITextAutocorrectionType)autocorrectionType {
-    return _textView->autocorrectionType;
+    return _textView->traits.autocorrectionType;
 }
 
 - (void)setAutocorrectionType:(UITextAutocorrectionType)type {
-    _textView->autocorrectionType = type;
+    _textView->traits.autocorrectionType = type;
 }
 
 - (UIKeyboardType)keyboardType {
-    return _textView->keyboardType;
+    return _textView->traits.keyboardType;
 }
 
 - (void)setKeyboardType:(UIKeyboardType)type {
-    _textView->keyboardType = type;
+    _textView->traits.keyboardType = type;
 }
 
 - (UIReturnKeyType)returnKeyType {
-    return _textView->returnKeyType;
+    return _textView->traits.returnKeyType;
 }
 
 - (void)setReturnKeyType:(UIReturnKeyType)type {
-    _textView->returnKeyType = type;
+    _textView->traits.returnKeyType = type;
 }
 
 - (BOOL)isSecureTextEntry {
-    return _textView->secureTextEntry;
+    return _textView->traits.secureTextEntry;
 }
 
 - (void)setSecureTextEntry:(BOOL)secure {
-    _textView->secureTextEntry = secure;
+    _textView->traits.secureTextEntry = secure;
 }
 
 - (CGSize)sizeThatFits:(CGSize)size {
@@ -180,23 +176,7 @@ void post(NSString *name, UITextView *view) {
            [delegate textViewShouldEndEditing:self];
 }
 
-- (BOOL)resignFirstResponder {
-    const BOOL was = [self isFirstResponder];
-    if (![super resignFirstResponder])
-        return NO;
-    if (was)
-        [self _hostDidEnd];
-    return YES;
-}
-
-- (void)_hostDropFirstResponder {
-    const BOOL was = [self isFirstResponder];
-    [super _hostDropFirstResponder];
-    if (was)
-        [self _hostDidEnd];
-}
-
-- (void)_hostDidEnd {
+- (void)_hostDidResign {
     id<UITextViewDelegate> delegate = [self delegate];
     if ([delegate respondsToSelector:@selector(textViewDidEndEditing:)])
         [delegate textViewDidEndEditing:self];

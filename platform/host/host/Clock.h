@@ -27,6 +27,5 @@ struct PendingCall {
 /// While a finger drags a list the main run loop is in its tracking mode: delayed calls of the default mode
 /// are held, and carried out when the finger lifts.
 void setTracking(bool tracking);
-[[nodiscard]] bool isTracking();
 
 } // namespace host

@@ -129,10 +129,6 @@ void setTracking(bool tracking) {
     armTimer();
 }
 
-bool isTracking() {
-    return fingerIsDown;
-}
-
 void addDelayedCall(id target, SEL selector, id argument, double delay, CallMode mode) {
     if (!isMainThread())
         fail("delayed calls belong to the main thread");

@@ -17,7 +17,8 @@
 - (void)searchBarCancelButtonClicked:(UISearchBar *)searchBar;
 @end
 
-@interface UISearchBar : UIView {
+/// Of the traits: capitalisation, correction and keyboard.
+@interface UISearchBar : UIView <UITextInputTraits> {
 @private
     struct UISearchBarState *_searchBar;
 }
@@ -26,10 +27,6 @@
 @property (nonatomic, copy) NSString *placeholder;
 @property (nonatomic) BOOL showsCancelButton;
 @property (nonatomic, assign) id<UISearchBarDelegate> delegate;
-
-@property (nonatomic) UITextAutocapitalizationType autocapitalizationType;
-@property (nonatomic) UITextAutocorrectionType autocorrectionType;
-@property (nonatomic) UIKeyboardType keyboardType;
 
 - (void)setShowsCancelButton:(BOOL)shows animated:(BOOL)animated;
 

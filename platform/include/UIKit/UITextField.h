@@ -61,10 +61,4 @@ extern NSString *const UITextFieldTextDidChangeNotification;
 @property (nonatomic, readonly, getter=isEditing) BOOL editing;
 @property (nonatomic, assign) id<UITextFieldDelegate> delegate;
 
-@property (nonatomic) UITextAutocapitalizationType autocapitalizationType;
-@property (nonatomic) UITextAutocorrectionType autocorrectionType;
-@property (nonatomic) UIKeyboardType keyboardType;
-@property (nonatomic) UIReturnKeyType returnKeyType;
-@property (nonatomic, getter=isSecureTextEntry) BOOL secureTextEntry;
-
 @end

@@ -37,10 +37,4 @@ extern NSString *const UITextViewTextDidEndEditingNotification;
 @property (nonatomic, getter=isSelectable) BOOL selectable;
 @property (nonatomic, assign) id<UITextViewDelegate> delegate;
 
-@property (nonatomic) UITextAutocapitalizationType autocapitalizationType;
-@property (nonatomic) UITextAutocorrectionType autocorrectionType;
-@property (nonatomic) UIKeyboardType keyboardType;
-@property (nonatomic) UIReturnKeyType returnKeyType;
-@property (nonatomic, getter=isSecureTextEntry) BOOL secureTextEntry;
-
 @end
