@@ -66,6 +66,18 @@ TEST_F(TextRows, ATapOnTheRowFocusesItsField) {
     EXPECT_EQ(person.focusedField().label, "Name");
 }
 
+TEST_F(TextRows, TheRoomForTheKeyboardGoesWithIt) {
+    const auto offsetOfTheEnd = [&] {
+        person.scrollTo(1e9);
+        return host::screen().all("Table").at(0)->amount("offset");
+    };
+    const double before = offsetOfTheEnd();
+    person.tap("Slogan");
+    EXPECT_EQ(offsetOfTheEnd(), before + 216);
+    person.pressReturn();
+    EXPECT_EQ(offsetOfTheEnd(), before);
+}
+
 TEST_F(TextRows, NothingIsStoredWhileTyping) {
     person.type("Name", "Ada");
     EXPECT_EQ(stored(account, "name"), nil);

@@ -36,10 +36,6 @@
 /// A tap on the row.
 - (void)_hostTapped:(PSSpecifier *)specifier;
 
-/// Begins to keep the row that is typed into above the keyboard, and ends it. The table must be there.
-- (void)_hostFollowKeyboard;
-- (void)_hostIgnoreKeyboard;
-
 /// A question has been answered and carried out.
 - (void)_hostAnswered:(HostConfirmation *)question;
 

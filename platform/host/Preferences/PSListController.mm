@@ -10,6 +10,7 @@
 #include "Preferences/PageFile.h"
 #include "Preferences/PSListController+Host.h"
 #include "Preferences/SpecifierLoader.h"
+#include "UIKit/KeyboardRoom.h"
 
 namespace key = host::key;
 
@@ -17,8 +18,10 @@ namespace key = host::key;
 
 - (instancetype)init {
     self = [super init];
-    if (self)
+    if (self) {
         _bundleControllers = [[NSMutableArray alloc] init];
+        _keyboardRoom = [[HostKeyboardRoom alloc] init];
+    }
     return self;
 }
 
@@ -27,7 +30,6 @@ namespace key = host::key;
 }
 
 - (void)dealloc {
-    [self _hostIgnoreKeyboard];
     [self _hostUnloadBundles];
     [_table setDataSource:nil];
     [_table setDelegate:nil];
@@ -38,6 +40,7 @@ namespace key = host::key;
     [_specifierID release];
     [_bundleControllers release];
     [_confirmation release];
+    [_keyboardRoom release];
     [_loadFailure release];
     [super dealloc];
 }
@@ -101,7 +104,6 @@ namespace key = host::key;
     [self _hostRegroup];
     [_table setDataSource:self];
     [_table setDelegate:self];
-    [self _hostFollowKeyboard];
 }
 
 - (UITableView *)table {
@@ -112,6 +114,16 @@ namespace key = host::key;
     [super viewWillAppear:animated];
     if (NSIndexPath *chosen = [_table indexPathForSelectedRow])
         [_table deselectRowAtIndexPath:chosen animated:animated];
+}
+
+- (void)viewDidAppear:(BOOL)animated {
+    [super viewDidAppear:animated];
+    [_keyboardRoom pageDidAppear:_table];
+}
+
+- (void)viewWillDisappear:(BOOL)animated {
+    [super viewWillDisappear:animated];
+    [_keyboardRoom pageWillDisappear];
 }
 
 /// A page may have changed its array in place.

@@ -1,22 +1,16 @@
 // UITableViewController. After Apple's UITableViewController Class Reference: the view is the table; it is
 // loaded before it first appears, loses its selection each time it appears, and keeps the typed-into row
 // above the keyboard.
-#import "UIKit/TextInput.h"
 #import <UIKit/UITableViewController.h>
-#import <UIKit/UITextField.h>
-#import <UIKit/UITextView.h>
-#import <UIKit/UIWindow.h>
 
-#include "UIKit/Metrics.h"
-
-#include <utility>
+#include "host/Retained.h"
+#include "UIKit/KeyboardRoom.h"
 
 struct UITableViewControllerState {
     UITableViewStyle style = UITableViewStylePlain;
     bool clearsSelection = true;
     bool hasAppeared = false;
-    bool isShown = false;
-    bool madeRoom = false; ///< for the keyboard
+    host::Retained<HostKeyboardRoom *> keyboardRoom;
 };
 
 @implementation UITableViewController
@@ -29,15 +23,7 @@ struct UITableViewControllerState {
     if (!(self = [super initWithNibName:name bundle:bundle]))
         return nil;
     _tableControllerState = new UITableViewControllerState;
-    NSNotificationCenter *center = [NSNotificationCenter defaultCenter];
-    for (NSString *comes in
-         [NSArray arrayWithObjects:UIKeyboardWillShowNotification, UITextFieldTextDidBeginEditingNotification,
-                                   UITextViewTextDidBeginEditingNotification, nil])
-        [center addObserver:self selector:@selector(_hostMakeRoomForKeyboard) name:comes object:nil];
-    [center addObserver:self
-               selector:@selector(_hostTakeBackRoomForKeyboard)
-                   name:UIKeyboardWillHideNotification
-                 object:nil];
+    _tableControllerState->keyboardRoom = [[[HostKeyboardRoom alloc] init] autorelease];
     return self;
 }
 
@@ -48,7 +34,6 @@ struct UITableViewControllerState {
 }
 
 - (void)dealloc {
-    [[NSNotificationCenter defaultCenter] removeObserver:self];
     delete _tableControllerState;
     [super dealloc];
 }
@@ -92,36 +77,12 @@ struct UITableViewControllerState {
 
 - (void)viewDidAppear:(BOOL)animated {
     [super viewDidAppear:animated];
-    _tableControllerState->isShown = true;
-    [self _hostMakeRoomForKeyboard];
+    [_tableControllerState->keyboardRoom pageDidAppear:self.tableView];
 }
 
 - (void)viewWillDisappear:(BOOL)animated {
     [super viewWillDisappear:animated];
-    _tableControllerState->isShown = false;
-}
-
-- (void)_hostSetRoomForKeyboard:(CGFloat)height {
-    UITableView *table = self.tableView;
-    UIEdgeInsets inset = table.contentInset;
-    inset.bottom = height;
-    table.contentInset = table.scrollIndicatorInsets = inset;
-}
-
-/// Brings the row that is typed into above the keyboard. Not before the page is shown: bars give it its
-/// insets first.
-- (void)_hostMakeRoomForKeyboard {
-    UIView *input = host::focusedInput();
-    if (!_tableControllerState->isShown || !input || ![input isDescendantOfView:self.tableView])
-        return;
-    _tableControllerState->madeRoom = true;
-    [self _hostSetRoomForKeyboard:host::keyboardHeight];
-    [self.tableView scrollRectToVisible:[input convertRect:input.bounds toView:self.tableView] animated:YES];
-}
-
-- (void)_hostTakeBackRoomForKeyboard {
-    if (std::exchange(_tableControllerState->madeRoom, false))
-        [self _hostSetRoomForKeyboard:0];
+    [_tableControllerState->keyboardRoom pageWillDisappear];
 }
 
 - (void)setEditing:(BOOL)editing animated:(BOOL)animated {

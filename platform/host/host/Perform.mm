@@ -66,12 +66,12 @@ Outcome performOnFirst(const char *type, Gesture gesture) {
     return performOnNamed(gesture);
 }
 
-Outcome performOnFocused(Gesture gesture) {
-    UIView<HostTextInput> *input = host::focusedInput();
-    if (!input)
+/// The keyboard reaches its field also where that has been scrolled out of sight.
+Outcome performOnFocused(const Gesture &gesture) {
+    if (!host::focusedInput())
         return Outcome::notThere;
-    gesture.number = [input _hostNumber];
-    return performOnNamed(gesture);
+    UIView<HostTextInput> *input = [[host::keyboardInput() retain] autorelease];
+    return input ? [input _hostPerform:gesture] : Outcome::disabled;
 }
 
 /// The navigation controller of the page in front, unless an alert covers it.

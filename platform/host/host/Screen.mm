@@ -31,11 +31,6 @@ Element windowElement() {
     return window;
 }
 
-/// A field under an alert has lost the keyboard to it.
-bool hasKeyboard(UIView<HostTextInput> *input) {
-    return input && (!frontPopup() || [input isDescendantOfView:frontPopup()]);
-}
-
 Element keyboardElement(UIView<HostTextInput> *input) {
     const CGRect screen = [[UIScreen mainScreen] bounds];
     Element keyboard{.type = "Keyboard"};
@@ -66,13 +61,18 @@ UIViewController *frontPage() {
     return root ? [frontOf(root) _hostInnermost] : nil;
 }
 
+UIView<HostTextInput> *keyboardInput() {
+    UIView<HostTextInput> *input = focusedInput();
+    return !frontPopup() || [input isDescendantOfView:frontPopup()] ? input : nil;
+}
+
 Element screen() {
     @autoreleasepool {
         [mainWindow() layoutIfNeeded];
         Element window = windowElement();
         describe(mainWindow(), 0, 0, window.children);
-        if (hasKeyboard(focusedInput()))
-            window.children.push_back(keyboardElement(focusedInput()));
+        if (UIView<HostTextInput> *input = keyboardInput())
+            window.children.push_back(keyboardElement(input));
         if (UIView<HostPopup> *popup = frontPopup()) {
             [popup layoutIfNeeded];
             describe(popup, 0, 0, window.children);

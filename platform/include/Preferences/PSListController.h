@@ -12,6 +12,7 @@
     NSString *_specifierID;
     NSMutableArray *_bundleControllers;
     id _confirmation;
+    id _keyboardRoom;
     NSString *_loadFailure;
 }
 
