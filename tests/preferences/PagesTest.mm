@@ -174,6 +174,43 @@ TEST_F(Pages, TheEditPaneIsReadFromTheItem) {
     EXPECT_EQ([[page specifierForID:@"About"] editPaneClass], Nil);
 }
 
+TEST_F(Pages, APaneEditsTheValueOfItsRow) {
+    person.tap("Account");
+    EXPECT_EQ(person.valueOf("Dedication"), "To nobody");
+    person.tap("Dedication");
+    EXPECT_EQ(person.title(), "Dedication");
+    EXPECT_EQ(person.field("To whom?").value, "To nobody");
+    person.retype("To whom?", "To Ada");
+    EXPECT_EQ(preferences::stored(preferences::account, "dedication"), nil);
+    person.back();
+    EXPECT_EQ(preferences::storedText(preferences::account, "dedication"), "To Ada");
+    EXPECT_EQ(person.valueOf("Dedication"), "To Ada");
+}
+
+TEST_F(Pages, APaneThatIsLeftUnchangedStoresNothing) {
+    person.tap("Account");
+    person.tap("Dedication");
+    person.back();
+    EXPECT_EQ(preferences::stored(preferences::account, "dedication"), nil);
+}
+
+TEST_F(Pages, APaneKnowsItsRowAndItsPage) {
+    person.tap("Account");
+    person.tap("Dedication");
+    PSDetailController *detail = static_cast<PSDetailController *>(top());
+    EXPECT_EQ([[detail pane] preferenceSpecifier], [detail specifier]);
+    EXPECT_EQ([[detail pane] viewController], detail);
+}
+
+TEST_F(Pages, AClassThatIsNoPaneGivesAnEmptyOne) {
+    person.tap("Account");
+    person.tap("Plain Pane");
+    EXPECT_TRUE([[static_cast<PSDetailController *>(top()) pane] isMemberOfClass:[PSEditingPane class]]);
+    EXPECT_TRUE(preferences::complained("JBStarsCell of row Plain Pane is no PSEditingPane"));
+    person.back();
+    EXPECT_EQ(person.title(), "Account");
+}
+
 TEST_F(Pages, AClassThatIsNotThereOpensAPageThatSaysSo) {
     person.tap("Nowhere");
     EXPECT_THAT(preferences::texts("footer"), ElementsAre("There is no class JBNowhereController."));

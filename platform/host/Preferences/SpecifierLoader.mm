@@ -64,7 +64,7 @@ bool hasValue(int type, NSDictionary *item) {
     case PSSwitchCell:
     case PSSegmentCell: return true;
     case PSGroupCell: return [item objectForKey:key::key] != nil;
-    default: return isTextRow(type);
+    default: return isTextRow(type) || [item objectForKey:key::pane];
     }
 }
 

@@ -4,7 +4,9 @@
 #import <Preferences/PSBundleController.h>
 #import <Preferences/PSConfirmationSpecifier.h>
 #import <Preferences/PSControlTableCell.h>
+#import <Preferences/PSDetailController.h>
 #import <Preferences/PSEditableTableCell.h>
+#import <Preferences/PSEditingPane.h>
 #import <Preferences/PSHeaderFooterView.h>
 #import <Preferences/PSListController.h>
 #import <Preferences/PSListItemsController.h>
