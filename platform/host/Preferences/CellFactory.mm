@@ -32,6 +32,28 @@ Class namedCellClass(PSSpecifier *specifier) {
     return Nil;
 }
 
+/// The class of this framework that a bundle's class is derived from; a class of this framework itself.
+Class frameworkClass(Class cell) {
+    static NSSet *const names =
+        [[NSSet alloc] initWithObjects:@"PSTableCell", @"PSControlTableCell", @"PSSwitchTableCell",
+                                       @"PSSliderTableCell", @"PSSegmentTableCell", @"PSEditableTableCell",
+                                       @"PSTextViewTableCell", @"PSSpinnerTableCell", nil];
+    while (![names containsObject:NSStringFromClass(cell)])
+        cell = [cell superclass];
+    return cell;
+}
+
+/// A bundle's class that looks at its specifier when it is made and does not hear of another one: such a cell
+/// cannot be handed from row to row.
+bool knowsOneSpecifier(Class cell) {
+    const Class base = frameworkClass(cell);
+    const auto overrides = [&](SEL selector) {
+        return [cell instanceMethodForSelector:selector] != [base instanceMethodForSelector:selector];
+    };
+    return overrides(@selector(initWithStyle:reuseIdentifier:specifier:)) &&
+           !overrides(@selector(refreshCellContentsWithSpecifier:));
+}
+
 PSTableCell *newCellOf(Class cell, PSSpecifier *specifier) {
     PSTableCell *made = nil;
     guarded(NSStringFromClass(cell), [&] {
@@ -126,12 +148,10 @@ UIColor *disabledColor() {
     }
 }
 
-/// Rows of a bundle's own class are not handed from one specifier to another: such a class may know only the
-/// one it was made with.
 + (NSString *)reuseIdentifierForSpecifier:(PSSpecifier *)specifier {
-    NSString *kind =
-        [NSString stringWithFormat:@"%@-%d", [self cellClassForSpecifier:specifier], [specifier cellType]];
-    if ([specifier propertyForKey:host::key::cellClass])
+    const Class cell = [self cellClassForSpecifier:specifier];
+    NSString *kind = [NSString stringWithFormat:@"%@-%d", cell, [specifier cellType]];
+    if (host::knowsOneSpecifier(cell))
         return [kind stringByAppendingFormat:@"-%@", [specifier identifier]];
     return [kind stringByAppendingFormat:@"-%ld", static_cast<long>([self cellStyleForSpecifier:specifier])];
 }
