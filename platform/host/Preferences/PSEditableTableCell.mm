@@ -6,6 +6,7 @@
 #include "Preferences/Keys.h"
 #include "Preferences/Messages.h"
 #include "Preferences/PSTableCell+Host.h"
+#include "Preferences/TextRows.h"
 
 namespace key = host::key;
 
@@ -50,10 +51,7 @@ namespace key = host::key;
     PSTextFieldSpecifier *row = host::as<PSTextFieldSpecifier>([PSTextFieldSpecifier class], specifier);
     NSString *placeholder = [row placeholder];
     [_textField setPlaceholder:placeholder ? placeholder : host::textProperty(specifier, key::placeholder)];
-    [_textField setKeyboardType:static_cast<UIKeyboardType>([specifier keyboardType])];
-    [_textField
-        setAutocapitalizationType:static_cast<UITextAutocapitalizationType>([specifier autoCapsType])];
-    [_textField setAutocorrectionType:static_cast<UITextAutocorrectionType>([specifier autoCorrectionType])];
+    host::setTraits(_textField, specifier);
     [_textField setSecureTextEntry:[specifier cellType] == PSSecureEditTextCell];
     [_suffixLabel setText:host::textProperty(specifier, key::suffix)];
     [_promptLabel setText:host::textProperty(specifier, key::prompt)];
@@ -74,8 +72,7 @@ namespace key = host::key;
 
 - (void)setTitle:(NSString *)title {
     [super setTitle:title];
-    [_textField setAccessibilityLabel:title];
-    [_textField setAccessibilityIdentifier:[[self specifier] identifier]];
+    host::nameInput(_textField, self);
 }
 
 - (void)setCellEnabled:(BOOL)enabled {
@@ -89,12 +86,12 @@ namespace key = host::key;
 }
 
 - (void)textFieldDidBeginEditing:(UITextField *)textField {
-    [_textBefore release];
-    _textBefore = [[textField text] copy];
+    host::editingBegins(_textBefore, [textField text]);
 }
 
 - (void)textFieldDidEndEditing:(UITextField *)textField {
-    [self _hostStoreText];
+    if (host::editingChanged(_textBefore, [textField text]))
+        [self _hostChangeValue:_textBefore];
 }
 
 - (BOOL)textFieldShouldReturn:(UITextField *)textField {
@@ -103,15 +100,6 @@ namespace key = host::key;
         [[static_cast<UIViewController *>([self cellTarget]) navigationController]
             popViewControllerAnimated:YES];
     return NO;
-}
-
-- (void)_hostStoreText {
-    NSString *text = [_textField text];
-    if (!_textBefore || [_textBefore isEqual:text])
-        return;
-    [_textBefore release];
-    _textBefore = [text copy];
-    [self _hostChangeValue:_textBefore];
 }
 
 /// Label, prompt, field and suffix stand side by side; the field takes the room that is left.

@@ -12,6 +12,8 @@ namespace key = host::key;
 
 @implementation PSRootController
 
+@synthesize specifier = _specifier;
+
 + (id)readPreferenceValue:(PSSpecifier *)specifier {
     NSString *name = host::textProperty(specifier, key::key);
     id value = name ? host::storedValue(host::textProperty(specifier, key::domain), name) : nil;
@@ -35,16 +37,6 @@ namespace key = host::key;
 - (void)dealloc {
     [_specifier release];
     [super dealloc];
-}
-
-- (void)setSpecifier:(PSSpecifier *)specifier {
-    [specifier retain];
-    [_specifier release];
-    _specifier = specifier;
-}
-
-- (PSSpecifier *)specifier {
-    return _specifier;
 }
 
 - (id)readPreferenceValue:(PSSpecifier *)specifier {

@@ -50,15 +50,8 @@ static NSArray *titlesOf(PSSpecifier *specifier) {
     }
 }
 
-/// The segments fill the row: its label has no room and only names it.
-- (void)setTitle:(NSString *)title {
-    [super setTitle:nil];
-    [_control setAccessibilityLabel:title];
-    [self setAccessibilityLabel:title];
-}
-
-- (NSString *)title {
-    return [self accessibilityLabel];
+- (BOOL)_hostShowsTitle {
+    return NO;
 }
 
 - (void)updateControl {

@@ -49,15 +49,8 @@ static float numberOr(PSSpecifier *specifier, NSString *key, float otherwise) {
     [self setNeedsLayout];
 }
 
-/// The whole row is the slider: its label has no room and only names it.
-- (void)setTitle:(NSString *)title {
-    [super setTitle:nil];
-    [_control setAccessibilityLabel:title];
-    [self setAccessibilityLabel:title];
-}
-
-- (NSString *)title {
-    return [self accessibilityLabel];
+- (BOOL)_hostShowsTitle {
+    return NO;
 }
 
 /// With stops, `segmentCount` of them lie between the ends, which are stops themselves.

@@ -34,6 +34,9 @@ inline constexpr CGFloat rowMargin = 15;
 
 @interface PSTableCell (Host)
 
+/// Whether the label is shown. A row that something else fills is only named by it. The base: yes.
+- (BOOL)_hostShowsTitle;
+
 /// The row was tapped, and is enabled.
 - (void)_hostTapped;
 

@@ -95,13 +95,20 @@ static std::string shownOnControl(const host::Element &row) {
     return _type == PSEditTextCell || _type == PSSecureEditTextCell || _type == PSEditTextViewCell;
 }
 
+- (BOOL)_hostShowsTitle {
+    return YES;
+}
+
 - (void)setTitle:(NSString *)title {
-    [[self textLabel] setText:title];
+    const bool shown = [self _hostShowsTitle];
+    [[self textLabel] setText:shown ? title : nil];
     [[self textLabel] setNumberOfLines:_type == PSStaticTextCell ? 0 : 1];
+    if (!shown)
+        [self setAccessibilityLabel:title];
 }
 
 - (NSString *)title {
-    return [[self textLabel] text];
+    return [self _hostShowsTitle] ? [[self textLabel] text] : [self accessibilityLabel];
 }
 
 /// With titles for its values, a row shows those and nothing for a value that has none.

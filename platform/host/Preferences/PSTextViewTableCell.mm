@@ -2,6 +2,7 @@
 #import <Preferences/PSTextViewTableCell.h>
 
 #include "Preferences/PSTableCell+Host.h"
+#include "Preferences/TextRows.h"
 
 @implementation PSTextViewTableCell
 
@@ -34,9 +35,7 @@
 }
 
 - (void)refreshCellContentsWithSpecifier:(PSSpecifier *)specifier {
-    [_textView setKeyboardType:static_cast<UIKeyboardType>([specifier keyboardType])];
-    [_textView setAutocapitalizationType:static_cast<UITextAutocapitalizationType>([specifier autoCapsType])];
-    [_textView setAutocorrectionType:static_cast<UITextAutocorrectionType>([specifier autoCorrectionType])];
+    host::setTraits(_textView, specifier);
     [super refreshCellContentsWithSpecifier:specifier];
 }
 
@@ -45,16 +44,13 @@
     [_textView setText:host::shownText(value)];
 }
 
-/// The text fills the row: its label has no room and only names it.
-- (void)setTitle:(NSString *)title {
-    [super setTitle:nil];
-    [_textView setAccessibilityLabel:title];
-    [_textView setAccessibilityIdentifier:[[self specifier] identifier]];
-    [self setAccessibilityLabel:title];
+- (BOOL)_hostShowsTitle {
+    return NO;
 }
 
-- (NSString *)title {
-    return [self accessibilityLabel];
+- (void)setTitle:(NSString *)title {
+    [super setTitle:title];
+    host::nameInput(_textView, self);
 }
 
 - (void)setCellEnabled:(BOOL)enabled {
@@ -68,17 +64,12 @@
 }
 
 - (void)textViewDidBeginEditing:(UITextView *)textView {
-    [_textBefore release];
-    _textBefore = [[textView text] copy];
+    host::editingBegins(_textBefore, [textView text]);
 }
 
 - (void)textViewDidEndEditing:(UITextView *)textView {
-    NSString *text = [textView text];
-    if (!_textBefore || [_textBefore isEqual:text])
-        return;
-    [_textBefore release];
-    _textBefore = [text copy];
-    [self _hostChangeValue:_textBefore];
+    if (host::editingChanged(_textBefore, [textView text]))
+        [self _hostChangeValue:_textBefore];
 }
 
 - (void)layoutSubviews {

@@ -5,35 +5,12 @@
 
 @implementation PSViewController
 
+@synthesize parentController = _parentController, rootController = _rootController;
+@synthesize specifier = _specifier;
+
 - (void)dealloc {
     [_specifier release];
     [super dealloc];
-}
-
-- (void)setParentController:(UIViewController *)controller {
-    _parentController = controller;
-}
-
-- (UIViewController *)parentController {
-    return _parentController;
-}
-
-- (void)setRootController:(PSRootController *)controller {
-    _rootController = controller;
-}
-
-- (PSRootController *)rootController {
-    return _rootController;
-}
-
-- (void)setSpecifier:(PSSpecifier *)specifier {
-    [specifier retain];
-    [_specifier release];
-    _specifier = specifier;
-}
-
-- (PSSpecifier *)specifier {
-    return _specifier;
 }
 
 - (id)readPreferenceValue:(PSSpecifier *)specifier {

@@ -1,7 +1,5 @@
 #include "Preferences/TextRows.h"
 
-#import <UIKit/UITextInputTraits.h>
-
 #include "Preferences/Keys.h"
 #include "Preferences/Messages.h"
 
@@ -43,6 +41,29 @@ void setUpTextRow(PSTextFieldSpecifier *row) {
     [row setPlaceholder:textProperty(row, key::placeholder)];
     if (NSString *guess = textProperty(row, key::bestGuess))
         [row setBestGuess:NSSelectorFromString(guess)];
+}
+
+void setTraits(id<UITextInputTraits> input, PSSpecifier *specifier) {
+    [input setKeyboardType:static_cast<UIKeyboardType>([specifier keyboardType])];
+    [input setAutocapitalizationType:static_cast<UITextAutocapitalizationType>([specifier autoCapsType])];
+    [input setAutocorrectionType:static_cast<UITextAutocorrectionType>([specifier autoCorrectionType])];
+}
+
+void nameInput(UIView *input, PSTableCell *row) {
+    [input setAccessibilityLabel:[row title]];
+    [input setAccessibilityIdentifier:[[row specifier] identifier]];
+}
+
+void editingBegins(NSString *&before, NSString *text) {
+    [before release];
+    before = [text copy];
+}
+
+bool editingChanged(NSString *&before, NSString *text) {
+    if (!before || [before isEqual:text])
+        return false;
+    editingBegins(before, text);
+    return true;
 }
 
 } // namespace host

@@ -10,8 +10,7 @@
 }
 
 /// The row that opened the stack; nil for that of Settings itself.
-- (void)setSpecifier:(PSSpecifier *)specifier;
-- (PSSpecifier *)specifier;
+@property (nonatomic, retain) PSSpecifier *specifier;
 
 /// The stored value of the specifier's `key` in its domain `defaults`; without one, its property `default`.
 + (id)readPreferenceValue:(PSSpecifier *)specifier;

@@ -14,16 +14,11 @@
 }
 
 /// The page that opened this one.
-- (void)setParentController:(UIViewController *)controller;
-- (UIViewController *)parentController;
-
+@property (nonatomic, assign) UIViewController *parentController;
 /// The stack of pages.
-- (void)setRootController:(PSRootController *)controller;
-- (PSRootController *)rootController;
-
+@property (nonatomic, assign) PSRootController *rootController;
 /// The row that opened this page.
-- (void)setSpecifier:(PSSpecifier *)specifier;
-- (PSSpecifier *)specifier;
+@property (nonatomic, retain) PSSpecifier *specifier;
 
 /// The stored value of the specifier's `key` in its domain `defaults`; without one, its property `default`.
 - (id)readPreferenceValue:(PSSpecifier *)specifier;
