@@ -27,7 +27,6 @@ public:
             rest = minus(minus(rest, on), off);
     }
 
-    [[nodiscard]] constexpr int count() const { return m_count; }
     [[nodiscard]] constexpr const Phase *begin() const { return m_phases; }
     [[nodiscard]] constexpr const Phase *end() const { return m_phases + m_count; }
 

@@ -148,6 +148,12 @@ TEST(Pages, NoRowAsksForConfirmation) {
         EXPECT_FALSE(item.contains("confirmation")) << describe(name, item);
 }
 
+// The page announces every change, once for a burst of them.
+TEST(Pages, NoRowAnnouncesItsChangeByItself) {
+    for (const auto &[name, item] : allItems())
+        EXPECT_FALSE(item.contains("PostNotification")) << describe(name, item);
+}
+
 TEST(Pages, NoPageSaysAnythingTwice) {
     for (const auto &name : pageNames()) {
         std::set<std::string> labels;

@@ -10,6 +10,7 @@
 #include <map>
 #include <regex>
 #include <set>
+#include <utility>
 
 namespace {
 
@@ -76,6 +77,26 @@ bool endsWithOneOf(const std::string &text, std::initializer_list<const char *> 
 
 bool isSentence(const std::string &english) {
     return endsWithOneOf(english, {".", "?", "!"});
+}
+
+TEST(Wording, NoTwoTextsOfAPageReadAlike) {
+    for (const auto &language : languages())
+        for (const auto &name : pageNames()) {
+            std::set<std::string> texts;
+            for (const auto &[key, value] : table(language, name))
+                EXPECT_TRUE(texts.insert(value).second) << where(language, name) << ": " << value;
+        }
+}
+
+// Russian alone declines what a list is sorted by.
+TEST(Wording, OneTextReadsTheSameOnEveryPage) {
+    std::map<std::pair<std::string, std::string>, std::string> said;
+    forEachTranslation([&](const auto &language, const auto &name, const auto &key, const auto &value) {
+        if (language == "ru" && name == "Keypad" && key == "Name")
+            return;
+        const auto &first = said.try_emplace({language, key}, value).first->second;
+        EXPECT_EQ(value, first) << where(language, name) << ": " << key;
+    });
 }
 
 TEST(Wording, SentencesStaySentences) {
