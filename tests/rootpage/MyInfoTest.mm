@@ -109,6 +109,19 @@ TEST_F(MyInfo, ThePickerIsFreedWhenItIsDone) {
     EXPECT_EQ(freedPickers, 2);
 }
 
+TEST_F(MyInfo, PagesThatAreClosedTakeThePickerWithThem) {
+    open();
+    person.tap("My Info");
+    host::closePages();
+    EXPECT_EQ(person.title(), "Settings");
+    open();
+    EXPECT_EQ(person.title(), "Zelvora");
+    person.tap("My Info");
+    open();
+    EXPECT_EQ(person.title(), "Zelvora");
+    EXPECT_THAT(pick("Ann Lee"), testing::SizeIs(2));
+}
+
 TEST_F(MyInfo, AChosenPersonIsNamedFirstNameFirst) {
     open();
     EXPECT_THAT(pick("Ann Lee"), ElementsAre(Pair("MyInfoName", "Ann Lee"), Pair("MyInfo", "number 1")));

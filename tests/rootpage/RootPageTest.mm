@@ -54,6 +54,17 @@ TEST_F(RootPages, CancellingTheToolsDoesNothing) {
     EXPECT_THAT(commands(), IsEmpty());
 }
 
+TEST_F(RootPages, PagesThatAreClosedTakeTheirSheetWithThem) {
+    open();
+    tapRightButton();
+    host::closePages();
+    EXPECT_EQ(person.question().type, "");
+    EXPECT_EQ(person.title(), "Settings");
+    EXPECT_THAT(commands(), IsEmpty());
+    open();
+    EXPECT_EQ(person.title(), "Zelvora");
+}
+
 TEST_F(RootPages, OtherSheetsRestartNothing) {
     open();
     UIActionSheet *sheet = [[[UIActionSheet alloc] initWithTitle:nil

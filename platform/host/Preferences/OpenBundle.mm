@@ -5,6 +5,7 @@
 #include "Preferences/Messages.h"
 #include "Preferences/PlainPage.h"
 #include "Preferences/SettingsPage.h"
+#include "UIKit/Popups.h"
 
 #import <Preferences/PSRootController.h>
 #import <Preferences/PSSpecifier.h>
@@ -63,6 +64,8 @@ UIViewController *openBundle(NSString *path, std::string *reason) {
 
 void closePages() {
     @autoreleasepool {
+        dropPopups();
+        [settings() dismissViewControllerAnimated:NO completion:nil];
         [settings() popToRootViewControllerAnimated:NO];
         waitUntilIdle();
     }

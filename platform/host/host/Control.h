@@ -39,7 +39,8 @@ void leaveAndReturn();
 UIViewController *openBundle(NSString *path, std::string *reason = nullptr);
 #endif
 
-/// Leaves the bundle's pages, back to the root list of Settings.
+/// Leaves the bundle's pages, back to the root list of Settings. What they have in front goes with them
+/// without a word: alerts, sheets and presented pages.
 void closePages();
 
 } // namespace host
