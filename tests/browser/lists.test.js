@@ -97,6 +97,19 @@ test('in editing mode the minus opens the Delete button', async () => {
   await person.front.locator('.bar').getByRole('button', { name: 'Edit' }).waitFor();
 });
 
+test('the focus follows where the phone puts it', async () => {
+  await person.tap('Add Number');
+  await person.focuses('[placeholder=Name]');
+  await simulator.perform({ kind: 'tap', element: { type: 'TextField', label: 'Phone Number' } });
+  await person.focuses('[placeholder="Phone Number"]');
+  await person.page.locator('.keyboard.pad').waitFor();
+  await person.page.keyboard.type('42');
+  await person.settled();
+  assert.equal(await person.front.getByPlaceholder('Phone Number').inputValue(), '42');
+  await person.pressBar('Cancel');
+  await person.title('Blacklist');
+});
+
 test('what is typed fast arrives whole', async () => {
   const name = 'The quick brown fox jumps';
   await person.tap('Add Number');

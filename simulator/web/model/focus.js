@@ -10,10 +10,10 @@ export class KeptFocus {
     this.selection = this.element && selectionOf(element);
   }
 
-  // After it.
+  // After it; unless the focus has been given to something else meanwhile.
   restore() {
     const { element, selection } = this;
-    if (!element?.isConnected || document.activeElement === element)
+    if (!element?.isConnected || document.activeElement !== document.body)
       return;
     element.focus({ preventScroll: true });
     if (selection)

@@ -61,4 +61,13 @@ export class Simulator {
     const response = await fetch(this.origin + path, { headers: { 'X-Zelvora-Token': this.token } });
     return response.json();
   }
+
+  // As a script acts on the phone, past the page.
+  async perform(gesture) {
+    await fetch(`${this.origin}/api/gesture`, {
+      method: 'POST',
+      headers: { 'X-Zelvora-Token': this.token, 'Content-Type': 'application/json' },
+      body: JSON.stringify(gesture),
+    });
+  }
 }
