@@ -22,23 +22,24 @@ public:
     enum class Answer { known, stranger, alreadyTaken };
 
     /// The first question for a number gives its record, owned by the caller, or tells that there is none;
-    /// every further one that it was taken. Where memory is short, every number counts as taken.
+    /// every further one that it was taken. Numbers have at most 65,535 bytes; where memory is short, every
+    /// one counts as taken.
     Answer take(const char *number, size_t length, NSMutableDictionary **record);
 
 private:
     struct Place {
-        size_t start;  ///< of the number's bytes in `m_bytes`
-        size_t length; ///< 0 where the place is free
-        uint32_t hash;
-        bool isTaken;
         NSMutableDictionary *record;
+        uint32_t hash;
+        uint32_t start;  ///< of the number's bytes in `m_bytes`
+        uint16_t length; ///< 0 where the place is free
+        bool isTaken;
     };
 
     void add(NSMutableDictionary *record);
     Place *placeOf(const char *number, size_t length);
     Place &freeOrEqual(const char *number, size_t length, uint32_t hash) const;
     bool makeRoom();
-    bool keepBytes(const char *number, size_t length, size_t *start);
+    bool keepBytes(const char *number, size_t length, uint32_t *start);
 
     Place *m_places = nullptr;
     size_t m_placeCount = 0; ///< a power of two, or 0

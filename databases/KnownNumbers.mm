@@ -67,15 +67,15 @@ KnownNumbers::Answer KnownNumbers::take(const char *number, size_t length, NSMut
 
 // The place of a number, made where it is new; null for the empty number and where there is no memory.
 KnownNumbers::Place *KnownNumbers::placeOf(const char *number, size_t length) {
-    if (length == 0 || !makeRoom())
+    if (length == 0 || length > UINT16_MAX || !makeRoom())
         return nullptr;
     const uint32_t hash = hashOf(number, length);
     Place &place = freeOrEqual(number, length, hash);
     if (place.length == 0) {
-        size_t start = 0;
+        uint32_t start = 0;
         if (!keepBytes(number, length, &start))
             return nullptr;
-        place = {start, length, hash, false, nil};
+        place = {nil, hash, start, static_cast<uint16_t>(length), false};
         ++m_used;
     }
     return &place;
@@ -113,9 +113,11 @@ bool KnownNumbers::makeRoom() {
     return true;
 }
 
-bool KnownNumbers::keepBytes(const char *number, size_t length, size_t *start) {
+bool KnownNumbers::keepBytes(const char *number, size_t length, uint32_t *start) {
+    if (m_byteCount > UINT32_MAX)
+        return false;
     if (m_byteCount + length > m_byteCapacity) {
-        const size_t capacity = m_byteCapacity > 0 ? m_byteCapacity * 2 : fewestBytes;
+        const size_t capacity = (m_byteCapacity + length) * 2 + fewestBytes;
         auto *bytes = static_cast<char *>(realloc(m_bytes, capacity));
         if (!bytes)
             return false;
@@ -123,7 +125,7 @@ bool KnownNumbers::keepBytes(const char *number, size_t length, size_t *start) {
         m_byteCapacity = capacity;
     }
     memcpy(m_bytes + m_byteCount, number, length);
-    *start = m_byteCount;
+    *start = static_cast<uint32_t>(m_byteCount);
     m_byteCount += length;
     return true;
 }
