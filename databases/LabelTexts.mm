@@ -15,7 +15,7 @@ LabelTexts::~LabelTexts() {
 NSString *LabelTexts::text(const char *label) {
     if (!label)
         return nil;
-    Place &place = m_places[hashOf(label, strlen(label)) % placeCount];
+    Place &place = m_places[hashOf(label) % placeCount];
     if (!place.label || strcmp(place.label, label) != 0)
         fill(place, label);
     return place.text;
