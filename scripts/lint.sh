@@ -3,7 +3,7 @@
 # usage: ./zv lint [--fast]     --fast leaves out clang-tidy
 set -euo pipefail
 source scripts/common.sh
-need_build_tools clang-format clang-tidy shellcheck libgtest-dev libgmock-dev python3
+need_build_tools clang-format clang-tidy shellcheck libgtest-dev libgmock-dev libclang-rt-14-dev
 
 failed=0
 
