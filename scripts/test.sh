@@ -3,7 +3,7 @@
 set -euo pipefail
 source scripts/common.sh
 
-need_build_tools libgtest-dev libgmock-dev libplist-utils
+need_build_tools libgtest-dev libgmock-dev libclang-rt-14-dev libplist-utils
 need 'the device tests' lld llvm binutils dpkg shellcheck git g++-aarch64-linux-gnu g++-arm-linux-gnueabihf qemu-user googletest
 want 'the 32-bit slice' lld-13
 need_browser_tools
