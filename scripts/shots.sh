@@ -8,7 +8,7 @@ case "${1:-}" in
     -h | --help) sed -n '2,3s/^# //p' scripts/shots.sh; exit ;;
     *) ;;
 esac
-need_build_tools fonts-liberation fonts-wqy-microhei fonts-noto-color-emoji
+need_build_tools fonts-noto-color-emoji
 need_browser_tools
 build host zelvora-simulator
 mkdir -p build/shots
