@@ -31,7 +31,8 @@ need_build_tools() {
         libplist-dev libsqlite3-dev libcpp-httplib-dev nlohmann-json3-dev node-preact python3 librsvg2-bin "$@"
 }
 
-# What drives a browser, and fonts as wide as the phone's. A node that does not come from Debian brings its own npm; Debian's would not go beside it.
+# What drives a browser, and fonts as wide as the phone's. A node that does not come from Debian brings its own npm;
+# Debian's would not go beside it.
 need_browser_tools() {
     need 'the browser' curl fonts-liberation fonts-wqy-microhei
     if ! command -v node >/dev/null || ! command -v npm >/dev/null; then need 'the browser' nodejs npm; fi
