@@ -1,18 +1,13 @@
-#include "Stage.h"
+#include "PlainAnswers.h"
 
-/// Writes down what alerts and sheets tell; may answer a click with another alert.
-@interface PopupDelegate : NSObject <UIAlertViewDelegate, UIActionSheetDelegate> {
+/// Writes down when alerts come as well; may answer a click with another alert.
+@interface PopupDelegate : PlainAnswers {
 @public
-    uikit::Trace told;
     UIAlertView *next; ///< shown at the next click; not retained
 }
 @end
 
 @implementation PopupDelegate
-
-- (void)write:(const char *)what index:(NSInteger)index {
-    told.push_back(what + std::string(" ") + std::to_string(index));
-}
 
 - (void)willPresentAlertView:(UIAlertView *)alert {
     told.emplace_back("will present");
@@ -23,30 +18,10 @@
 }
 
 - (void)alertView:(UIAlertView *)alert clickedButtonAtIndex:(NSInteger)index {
-    [self write:"clicked" index:index];
+    [super alertView:alert clickedButtonAtIndex:index];
     [next show];
     [next release];
     next = nil;
-}
-
-- (void)alertView:(UIAlertView *)alert willDismissWithButtonIndex:(NSInteger)index {
-    [self write:"will dismiss" index:index];
-}
-
-- (void)alertView:(UIAlertView *)alert didDismissWithButtonIndex:(NSInteger)index {
-    [self write:"did dismiss" index:index];
-}
-
-- (void)actionSheet:(UIActionSheet *)sheet clickedButtonAtIndex:(NSInteger)index {
-    [self write:"clicked" index:index];
-}
-
-- (void)actionSheet:(UIActionSheet *)sheet willDismissWithButtonIndex:(NSInteger)index {
-    [self write:"will dismiss" index:index];
-}
-
-- (void)actionSheet:(UIActionSheet *)sheet didDismissWithButtonIndex:(NSInteger)index {
-    [self write:"did dismiss" index:index];
 }
 
 @end

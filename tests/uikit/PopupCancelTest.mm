@@ -1,44 +1,5 @@
 // Alerts and sheets that the system takes away.
-#include "Stage.h"
-
-/// Writes down what is clicked and dismissed.
-@interface PlainAnswers : NSObject <UIAlertViewDelegate, UIActionSheetDelegate> {
-@public
-    uikit::Trace told;
-}
-@end
-
-@implementation PlainAnswers
-
-- (void)write:(const char *)what index:(NSInteger)index {
-    told.push_back(what + std::string(" ") + std::to_string(index));
-}
-
-- (void)alertView:(UIAlertView *)alert clickedButtonAtIndex:(NSInteger)index {
-    [self write:"clicked" index:index];
-}
-
-- (void)alertView:(UIAlertView *)alert willDismissWithButtonIndex:(NSInteger)index {
-    [self write:"will dismiss" index:index];
-}
-
-- (void)alertView:(UIAlertView *)alert didDismissWithButtonIndex:(NSInteger)index {
-    [self write:"did dismiss" index:index];
-}
-
-- (void)actionSheet:(UIActionSheet *)sheet clickedButtonAtIndex:(NSInteger)index {
-    [self write:"clicked" index:index];
-}
-
-- (void)actionSheet:(UIActionSheet *)sheet willDismissWithButtonIndex:(NSInteger)index {
-    [self write:"will dismiss" index:index];
-}
-
-- (void)actionSheet:(UIActionSheet *)sheet didDismissWithButtonIndex:(NSInteger)index {
-    [self write:"did dismiss" index:index];
-}
-
-@end
+#include "PlainAnswers.h"
 
 /// Wants to know when the system cancels.
 @interface CancelAnswers : PlainAnswers
